@@ -1,0 +1,38 @@
+#include "generate.h"
+
+#include "tilesheet.h"
+
+#include <fstream>
+#include <stdexcept>
+
+namespace worldgen {
+namespace {
+
+std::vector<std::uint8_t> bytesOf(const std::string& text) { return {text.begin(), text.end()}; }
+
+// One quoted text field as the game's record writer writes it.
+std::vector<std::uint8_t> textRecord(const std::string& text) { return bytesOf("\"" + text + "\"\r\n"); }
+
+} // namespace
+
+FileSet generateAll()
+{
+    FileSet files;
+    const TileSheet tiles = buildDefaultTileset();
+    files["tilesets/default.bmp"] = encodeBmp(tiles.picture());
+    files["tilesets/default.ubt"] = textRecord(tilesetRecord(tiles, "default.bmp"));
+    return files;
+}
+
+void writeAll(const FileSet& files, const std::filesystem::path& programFolder)
+{
+    for (const auto& [relative, bytes] : files) {
+        const auto path = programFolder / relative;
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream out(path, std::ios::binary | std::ios::trunc);
+        out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+        if (!out) throw std::runtime_error("cannot write " + path.string());
+    }
+}
+
+} // namespace worldgen

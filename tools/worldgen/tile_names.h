@@ -1,0 +1,118 @@
+#pragma once
+// Names of the tiles of "\tilesets\default.bmp", for composing maps.
+// A Tile is a column and row of the 50 x 50 sheet; in a map cell it is
+// written "sx|sy" with sx = 24 * col and sy = 24 * row.
+// Passability: ground, floors, flowers, bridges, open doors and stairs are
+// passable (1); water, walls, roofs, trees, rocks, fences and furniture are
+// blocked (2). Objects are drawn onto the ground they usually stand on.
+
+namespace worldgen {
+
+struct Tile {
+    int col = 0;
+    int row = 0;
+    constexpr int sx() const { return col * 24; }
+    constexpr int sy() const { return row * 24; }
+    constexpr Tile at(int dc, int dr) const { return {col + dc, row + dr}; }
+    friend constexpr bool operator==(Tile, Tile) = default;
+};
+
+// A border between an outer ground and an inner one (a pond in grass, a
+// sand patch, ...), a block of 5 x 3 tiles:
+//   nw  n  ne  innerNw innerNe
+//   w   c  e   innerSw innerSe
+//   sw  s  se  c2      c3
+// nw..se frame a patch of the inner ground (c, c2, c3 are all inner). An
+// inner corner holds the outer ground in one corner only, for the bend of an
+// L-shaped patch.
+struct EdgeSet {
+    Tile origin;
+    constexpr Tile nw() const { return origin; }
+    constexpr Tile n() const { return origin.at(1, 0); }
+    constexpr Tile ne() const { return origin.at(2, 0); }
+    constexpr Tile w() const { return origin.at(0, 1); }
+    constexpr Tile c() const { return origin.at(1, 1); }
+    constexpr Tile e() const { return origin.at(2, 1); }
+    constexpr Tile sw() const { return origin.at(0, 2); }
+    constexpr Tile s() const { return origin.at(1, 2); }
+    constexpr Tile se() const { return origin.at(2, 2); }
+    constexpr Tile innerNw() const { return origin.at(3, 0); }
+    constexpr Tile innerNe() const { return origin.at(4, 0); }
+    constexpr Tile innerSw() const { return origin.at(3, 1); }
+    constexpr Tile innerSe() const { return origin.at(4, 1); }
+    constexpr Tile c2() const { return origin.at(3, 2); }
+    constexpr Tile c3() const { return origin.at(4, 2); }
+};
+
+// A gabled roof seen from the south, 3 x 3: top row ridge, middle row slope,
+// bottom row eaves; left and right columns are the gable ends. chimney() is
+// a slope tile with a chimney, beside the block.
+struct RoofSet {
+    Tile origin;
+    constexpr Tile part(int col, int row) const { return origin.at(col, row); }
+    constexpr Tile chimney() const { return origin.at(3, 1); }
+};
+
+// One style of house front, six tiles in a row.
+struct WallSet {
+    Tile origin;
+    constexpr Tile left() const { return origin; }
+    constexpr Tile middle() const { return origin.at(1, 0); }
+    constexpr Tile right() const { return origin.at(2, 0); }
+    constexpr Tile window() const { return origin.at(3, 0); }
+    constexpr Tile door() const { return origin.at(4, 0); }     // closed, blocked
+    constexpr Tile doorOpen() const { return origin.at(5, 0); } // passable
+};
+
+// A fence or low wall: straight pieces and corners.
+struct FenceSet {
+    Tile origin;
+    constexpr Tile horizontal() const { return origin; }
+    constexpr Tile vertical() const { return origin.at(1, 0); }
+    constexpr Tile nw() const { return origin.at(2, 0); }
+    constexpr Tile ne() const { return origin.at(3, 0); }
+    constexpr Tile sw() const { return origin.at(4, 0); }
+    constexpr Tile se() const { return origin.at(5, 0); }
+};
+
+// ---- Ground, row 0 --------------------------------------------------------
+constexpr Tile kGrass[4] = {{0, 0}, {1, 0}, {2, 0}, {3, 0}};
+constexpr Tile kFlowersRed{4, 0};
+constexpr Tile kFlowersYellow{5, 0};
+constexpr Tile kFlowersWhite{6, 0};
+constexpr Tile kFlowersBlue{7, 0};
+constexpr Tile kFlowersMixed{8, 0};
+constexpr Tile kClover{9, 0};
+constexpr Tile kTallGrass{10, 0};
+constexpr Tile kMushrooms{11, 0};
+constexpr Tile kDirt[3] = {{12, 0}, {13, 0}, {14, 0}};
+constexpr Tile kSand[3] = {{15, 0}, {16, 0}, {17, 0}};
+constexpr Tile kCobble[3] = {{18, 0}, {19, 0}, {20, 0}};
+constexpr Tile kGravel{21, 0};
+constexpr Tile kMud{22, 0};
+constexpr Tile kSnow[2] = {{23, 0}, {24, 0}};
+constexpr Tile kPavement[2] = {{25, 0}, {26, 0}};
+constexpr Tile kWater[3] = {{27, 0}, {28, 0}, {29, 0}}; // blocked
+constexpr Tile kDeepWater{30, 0};                        // blocked
+constexpr Tile kLilyPads{31, 0};                         // blocked
+constexpr Tile kReeds{32, 0};                            // blocked
+constexpr Tile kWaterRocks{33, 0};                       // blocked
+constexpr Tile kIce{34, 0};
+constexpr Tile kCaveFloor[3] = {{35, 0}, {36, 0}, {37, 0}};
+constexpr Tile kDungeonFloor[3] = {{38, 0}, {39, 0}, {40, 0}};
+constexpr Tile kLava{41, 0};  // blocked
+constexpr Tile kChasm{42, 0}; // blocked
+
+// ---- Borders, rows 3 to 8 --------------------------------------------------
+constexpr EdgeSet kGrassPond{{0, 3}};     // water inside grass; water parts blocked
+constexpr EdgeSet kBeach{{5, 3}};         // water inside sand; water parts blocked
+constexpr EdgeSet kGrassSand{{10, 3}};    // sand inside grass
+constexpr EdgeSet kGrassDirt{{15, 3}};    // dirt road or field inside grass
+constexpr EdgeSet kGrassCobble{{20, 3}};  // cobbled square inside grass
+constexpr EdgeSet kSnowGrass{{25, 3}};    // grass inside snow
+constexpr EdgeSet kCaveChasm{{0, 6}};     // a pit inside cave floor; pit parts blocked
+constexpr EdgeSet kCaveLava{{5, 6}};      // lava inside cave floor; lava parts blocked
+constexpr EdgeSet kDungeonWater{{10, 6}}; // water inside dungeon floor; water parts blocked
+constexpr EdgeSet kDirtWater{{15, 6}};    // water inside dirt; water parts blocked
+
+} // namespace worldgen
