@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include <cstdio>
+#include <iterator>
 
 namespace {
 
@@ -15,15 +16,17 @@ bool allBlack(const QImage& img)
     return true;
 }
 
-// The sheet in parts of 16 x 10 tiles, three times enlarged, empty parts left out.
+// The sheet in bands of rows that follow the families of tiles, 25 columns
+// at a time, enlarged, empty parts left out.
 void saveTilesetParts(const QImage& sheet, const QString& out)
 {
-    for (int row = 0; row < 50; row += 10)
-        for (int col = 0; col < 50; col += 16) {
-            const QImage part = sheet.copy(col * 24, row * 24, 16 * 24, 10 * 24);
+    const int bands[] = {0, 3, 9, 12, 21, 28, 34, 50};
+    for (int b = 0; b + 1 < int(std::size(bands)); ++b)
+        for (int col = 0; col < 50; col += 25) {
+            const QImage part = sheet.copy(col * 24, bands[b] * 24, 25 * 24, (bands[b + 1] - bands[b]) * 24);
             if (allBlack(part)) continue;
-            part.scaled(part.width() * 3, part.height() * 3)
-                .save(QString("%1/tiles_r%2_c%3.png").arg(out).arg(row).arg(col));
+            part.scaled(part.width() * 2, part.height() * 2)
+                .save(QString("%1/tiles_r%2_c%3.png").arg(out).arg(bands[b]).arg(col));
         }
 }
 

@@ -115,4 +115,47 @@ constexpr EdgeSet kCaveLava{{5, 6}};      // lava inside cave floor; lava parts 
 constexpr EdgeSet kDungeonWater{{10, 6}}; // water inside dungeon floor; water parts blocked
 constexpr EdgeSet kDirtWater{{15, 6}};    // water inside dirt; water parts blocked
 
+
+// ---- Nature, rows 9 and 10 -------------------------------------------------
+// Several-tile objects are named by their top-left tile; use .at(col, row).
+constexpr Tile kOak{0, 9};        // 2 x 2 on grass
+constexpr Tile kBigPine{2, 9};    // 2 x 2 on grass
+constexpr Tile kPine{4, 9};       // 1 x 2 on grass
+constexpr Tile kPalm{5, 9};       // 1 x 2 on sand
+constexpr Tile kBoulder{6, 9};    // 2 x 2 on grass
+constexpr Tile kRoundTree{8, 9};
+constexpr Tile kFruitTree{9, 9};
+constexpr Tile kSmallPine{10, 9};
+constexpr Tile kDeadTree{11, 9};
+constexpr Tile kStump{12, 9};
+constexpr Tile kBush{13, 9};
+constexpr Tile kBerryBush{14, 9};
+constexpr Tile kFlowerBush{15, 9};
+constexpr Tile kRock{16, 9};
+constexpr Tile kBigRock{17, 9};
+constexpr Tile kSandRock{18, 9};
+constexpr Tile kLog{19, 9};
+constexpr Tile kHedge{20, 9};
+constexpr Tile kSnowPine{21, 9};  // on snow
+constexpr Tile kSnowRock{22, 9};  // on snow
+constexpr Tile kCactus{23, 9};    // on sand
+constexpr Tile kAutumnTree{8, 10};
+constexpr Tile kSnowBush{9, 10};  // on snow
+constexpr Tile kDirtRock{10, 10}; // on dirt
+constexpr Tile kShrubDirt{11, 10}; // on dirt
+
+
+// ---- Houses, rows 12 to 15 -------------------------------------------------
+constexpr RoofSet kRoofRed{{0, 12}};
+constexpr RoofSet kRoofBlue{{4, 12}};
+constexpr RoofSet kRoofThatch{{8, 12}};
+constexpr WallSet kWallStone{{0, 15}};
+constexpr WallSet kWallPlaster{{6, 15}};
+constexpr WallSet kWallWood{{12, 15}};
+constexpr WallSet kWallBrick{{18, 15}};
+constexpr Tile kShopSignInn{24, 15};     // plaster wall with a hanging sign
+constexpr Tile kShopSignWeapons{25, 15};
+constexpr Tile kShopSignItems{26, 15};
+constexpr Tile kShopSignMagic{27, 15};
+
 } // namespace worldgen
