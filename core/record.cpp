@@ -1,0 +1,112 @@
+#include "core/record.h"
+
+#include "platform/error.h"
+#include "platform/files.h"
+
+namespace umbrith {
+
+namespace {
+bool isLineBreak(QChar c) { return c == u'\r' || c == u'\n'; }
+} // namespace
+
+RecordReader::RecordReader(QString text) : text_(std::move(text)) {}
+
+RecordReader RecordReader::fromFile(const QString& path) { return RecordReader(readTextFile(path)); }
+
+void RecordReader::skipSpaces() {
+    while (pos_ < text_.size() && (text_[pos_] == u' ' || text_[pos_] == u'\t'))
+        ++pos_;
+}
+
+// Consumes the comma or line break that ends a field, and whatever stands
+// before it (the tail of a cut quoted text).
+void RecordReader::skipDelimiter() {
+    while (pos_ < text_.size() && text_[pos_] != u',' && !isLineBreak(text_[pos_]))
+        ++pos_;
+    afterComma_ = pos_ < text_.size() && text_[pos_] == u',';
+    if (afterComma_) {
+        ++pos_;
+    } else if (pos_ < text_.size()) {
+        if (text_[pos_] == u'\r' && pos_ + 1 < text_.size() && text_[pos_ + 1] == u'\n')
+            ++pos_;
+        ++pos_;
+    }
+}
+
+bool RecordReader::atEnd() const {
+    if (afterComma_)
+        return false; // "a," still holds an empty field
+    for (qsizetype i = pos_; i < text_.size(); ++i)
+        if (!text_[i].isSpace())
+            return false;
+    return true;
+}
+
+Value RecordReader::next() {
+    if (!afterComma_) {
+        // Blank lines between records are passed over.
+        while (pos_ < text_.size() && (text_[pos_].isSpace()))
+            ++pos_;
+    } else {
+        skipSpaces();
+    }
+    if (pos_ >= text_.size() && !afterComma_)
+        err::raise(err::InputPastEnd);
+
+    if (pos_ < text_.size() && text_[pos_] == u'"') {
+        qsizetype start = ++pos_;
+        qsizetype end = text_.indexOf(u'"', start);
+        if (end < 0)
+            end = text_.size();
+        QString value = text_.mid(start, end - start);
+        pos_ = end;
+        skipDelimiter();
+        return Value(value);
+    }
+
+    qsizetype start = pos_;
+    while (pos_ < text_.size() && text_[pos_] != u',' && !isLineBreak(text_[pos_]))
+        ++pos_;
+    QString raw = text_.mid(start, pos_ - start).trimmed();
+    skipDelimiter();
+    if (raw.isEmpty())
+        return Value();
+    if (raw == u"#TRUE#")
+        return Value(true);
+    if (raw == u"#FALSE#")
+        return Value(false);
+    try {
+        return Value(toDouble(Value(raw)));
+    } catch (const RuntimeError&) {
+        return Value(raw);
+    }
+}
+
+QString writeRecord(const QList<Value>& fields) {
+    QString out;
+    for (qsizetype i = 0; i < fields.size(); ++i) {
+        if (i > 0)
+            out += u',';
+        const Value& field = fields[i];
+        switch (field.kind()) {
+        case Value::Kind::Empty: break;
+        case Value::Kind::Number: out += numberText(field.num()); break;
+        case Value::Kind::Boolean: out += field.num() != 0 ? u"#TRUE#" : u"#FALSE#"; break;
+        case Value::Kind::Text: out += u'"' + field.text() + u'"'; break;
+        }
+    }
+    return out + QStringLiteral("\r\n");
+}
+
+void writeRecordFile(const QString& path, const QList<Value>& fields) { writeTextFile(path, writeRecord(fields)); }
+
+QList<Value> readRecordFile(const QString& path, int count) {
+    RecordReader reader = RecordReader::fromFile(path);
+    QList<Value> fields;
+    fields.reserve(count);
+    for (int i = 0; i < count; ++i)
+        fields.append(reader.next());
+    return fields;
+}
+
+} // namespace umbrith

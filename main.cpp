@@ -1,0 +1,67 @@
+#include "core/misc.h"
+#include "platform/real/realplatform.h"
+#include "shell/mainform.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryFile>
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+// The program folder must exist and take files, or nothing the game writes
+// (saves, notes, maps) could be kept.
+bool usableRoot(const QString& root, QString& problem) {
+    QFileInfo info(root);
+    if (!info.isDir()) {
+        problem = QStringLiteral("The program folder \"%1\" does not exist.").arg(root);
+        return false;
+    }
+    QTemporaryFile probe(QDir(root).filePath(QStringLiteral(".umbrith-XXXXXX")));
+    if (!probe.open()) {
+        problem = QStringLiteral("The program folder \"%1\" cannot be written to.").arg(root);
+        return false;
+    }
+    return true;
+}
+
+QString optionValue(int argc, char** argv, const char* option) {
+    for (int i = 1; i + 1 < argc; ++i)
+        if (std::strcmp(argv[i], option) == 0)
+            return QString::fromLocal8Bit(argv[i + 1]);
+    return QString();
+}
+
+bool hasFlag(int argc, char** argv, const char* flag) {
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], flag) == 0)
+            return true;
+    return false;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (hasFlag(argc, argv, "--offscreen") || qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+
+    QString root = optionValue(argc, argv, "--root");
+    if (root.isEmpty())
+        root = QCoreApplication::applicationDirPath();
+    root = QFileInfo(root).absoluteFilePath();
+    QString problem;
+    if (!usableRoot(root, problem)) {
+        std::fprintf(stderr, "umbrith: %s\n", problem.toLocal8Bit().constData());
+        return 2;
+    }
+    umbrith::setAppPath(root);
+
+    umbrith::RealPlatform realPlatform;
+    realPlatform.install();
+    umbrith::Main mainForm;
+    mainForm.show();
+    return app.exec();
+}
