@@ -200,6 +200,18 @@ void drawSolid(Image& img, const Mask& m, const Ramp& ramp, Rgb line, double bia
     paintRound(img, m, ramp, bias);
 }
 
+void drawBlock(Image& img, const Mask& m, const Ramp& ramp, Rgb line, int base)
+{
+    outline(img, m, line);
+    paintLit(img, m, ramp, base);
+}
+
+void drawStanding(Image& img, const Mask& m, const Ramp& ramp, Rgb line, int base)
+{
+    dropShadow(img, m, 2, 1);
+    drawBlock(img, m, ramp, line, base);
+}
+
 void dropShadow(Image& img, const Mask& m, int dx, int dy, double strength)
 {
     const Mask moved = m.shifted(dx, dy);

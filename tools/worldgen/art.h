@@ -55,6 +55,10 @@ void paintFlat(Image& img, const Mask& m, Rgb colour);
 void outline(Image& img, const Mask& m, Rgb colour);
 // Outline, then round shading: the usual way to draw a solid object.
 void drawSolid(Image& img, const Mask& m, const Ramp& ramp, Rgb line, double bias = 0.0);
+// Outline, then edge light: the usual way to draw something flat-sided.
+void drawBlock(Image& img, const Mask& m, const Ramp& ramp, Rgb line, int base = 2);
+// Shadow on the ground, then drawBlock: a flat-sided thing standing up.
+void drawStanding(Image& img, const Mask& m, const Ramp& ramp, Rgb line, int base = 2);
 // A soft dark patch under an object, standing on the ground to the lower right.
 void dropShadow(Image& img, const Mask& m, int dx = 1, int dy = 1, double strength = 0.45);
 

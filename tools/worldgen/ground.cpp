@@ -11,8 +11,9 @@ namespace {
 
 int wrap(int v) { return ((v % 24) + 24) % 24; }
 
-// Rectangular slabs with a one-pixel joint, bevelled towards the light.
-Rgb slab(const Ramp& ramp, int x, int y, int w, int h, int rowShift, int seed)
+} // namespace
+
+Rgb masonry(const Ramp& ramp, int x, int y, int w, int h, int rowShift, int seed)
 {
     const int row = y / h;
     const int sx = wrap(x + (row % 2) * rowShift);
@@ -24,6 +25,8 @@ Rgb slab(const Ramp& ramp, int x, int y, int w, int h, int rowShift, int seed)
     if (u == w - 2 || v == h - 2) level -= 0.8;
     return shade(ramp, level, x, y);
 }
+
+namespace {
 
 // Stones around jittered points, a 3 x 3 lattice that repeats with the tile.
 Rgb cobble(const Ramp& ramp, int x, int y, int seed)
@@ -104,7 +107,7 @@ Rgb groundPixel(Ground ground, int x, int y, int variant)
         return shade(pal::kSnow, 2.4 + n * 1.4, x, y);
     }
     case Ground::Pavement:
-        return slab(pal::kStone, x, y, 12, 12, 6 * (variant % 2), seed);
+        return masonry(pal::kStone, x, y, 12, 12, 6 * (variant % 2), seed);
     case Ground::Ice: {
         const double streak = std::sin((x - y + smoothNoise(x, y, 8, 24, seed) * 6) * 3.14159 / 12);
         return shade(pal::kSnow, 1.4 + streak * 0.8 + noise01(x, y, seed) * 0.3, x, y);
@@ -117,7 +120,7 @@ Rgb groundPixel(Ground ground, int x, int y, int variant)
     }
     case Ground::DungeonFloor:
         if (variant == 2 && std::abs(x - y - 3 + smoothNoise(x, y, 3, 24, seed) * 4) < 0.7) return pal::kDungeon[0];
-        return slab(pal::kDungeon, x, y, 12, 8, 6, seed);
+        return masonry(pal::kDungeon, x, y, 12, 8, 6, seed);
     case Ground::Lava: {
         const double n = smoothNoise(x, y, 6, 24, seed);
         if (n < 0.3) return shade(pal::kCave, 0.4 + n * 3, x, y);
@@ -127,6 +130,14 @@ Rgb groundPixel(Ground ground, int x, int y, int variant)
         const double n = smoothNoise(x, y, 8, 24, seed);
         return mix(pal::kInk, Rgb{8, 6, 12}, 0.5 + n * 0.5);
     }
+    case Ground::Checker: {
+        const bool dark = ((x / 6) + (y / 6)) % 2;
+        const int u = x % 6, v = y % 6;
+        const double level = (dark ? 1.2 : 3.0) + (u == 0 || v == 0) * 0.6 - (u == 5 || v == 5) * 0.6;
+        return shade(dark ? pal::kDungeon : pal::kPlaster, level, x, y);
+    }
+    case Ground::Terracotta:
+        return masonry(pal::kBrick, x, y, 8, 8, 0, seed);
     case Ground::WoodFloor: {
         const int row = y / 6;
         const int shift = static_cast<int>(noise01(row, variant, 9) * 24);
@@ -141,13 +152,15 @@ Rgb groundPixel(Ground ground, int x, int y, int variant)
     return kBlack;
 }
 
-Image groundTile(Ground ground, int variant)
+Image groundArea(Ground ground, int width, int height, int variant)
 {
-    Image tile(24, 24);
-    for (int y = 0; y < 24; ++y)
-        for (int x = 0; x < 24; ++x) tile.set(x, y, groundPixel(ground, x, y, variant));
-    return tile;
+    Image img(width, height);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) img.set(x, y, groundPixel(ground, x, y, variant));
+    return img;
 }
+
+Image groundTile(Ground ground, int variant) { return groundArea(ground, 24, 24, variant); }
 
 bool groundBlocks(Ground ground)
 {

@@ -158,4 +158,99 @@ constexpr Tile kShopSignWeapons{25, 15};
 constexpr Tile kShopSignItems{26, 15};
 constexpr Tile kShopSignMagic{27, 15};
 
+
+// ---- Outdoor things, rows 17 to 20 -----------------------------------------
+constexpr Tile kStairsUp{0, 17};       // stone steps on grass, passable
+constexpr Tile kStairsDown{1, 17};     // steps into the dark, passable
+constexpr Tile kWoodStairs{2, 17};     // passable
+constexpr Tile kLadderDown{3, 17};     // passable
+constexpr Tile kTrapdoor{4, 17};       // passable
+constexpr Tile kCaveEntrance{5, 17};   // dark mouth in a rock face, passable
+constexpr Tile kWell{6, 17};
+constexpr Tile kSignpost{7, 17};
+constexpr Tile kNoticeBoard{8, 17};
+constexpr Tile kLampPost{9, 17};
+constexpr Tile kGrave{10, 17};
+constexpr Tile kCrossGrave{11, 17};
+constexpr Tile kStatue{12, 17};
+constexpr Tile kBarrelOutside{13, 17};
+constexpr Tile kCrateOutside{14, 17};
+constexpr Tile kHaystack{15, 17};
+constexpr Tile kFirewood{16, 17};
+constexpr Tile kCampfire{17, 17};
+constexpr Tile kFountain{18, 17};      // 2 x 2 on cobbles
+constexpr FenceSet kWoodFence{{0, 19}};
+constexpr Tile kFencePost{6, 19};
+constexpr Tile kFenceGate{7, 19};      // passable
+constexpr FenceSet kStoneWall{{8, 19}};
+constexpr Tile kBridgeH[3] = {{0, 20}, {1, 20}, {2, 20}}; // west end, middle, east end; passable
+constexpr Tile kBridgeV[3] = {{3, 20}, {4, 20}, {5, 20}}; // north end, middle, south end; passable
+constexpr Tile kStoneBridgeH{6, 20};
+constexpr Tile kStoneBridgeV{7, 20};
+constexpr Tile kPier{8, 20};           // planks over water, passable
+
+
+// ---- Indoors, rows 21 to 25 ------------------------------------------------
+constexpr Tile kWoodFloor[2] = {{0, 21}, {1, 21}};
+constexpr Tile kCheckerFloor{2, 21};
+constexpr Tile kTileFloor{3, 21};
+constexpr Tile kInnerWallTop{4, 21};     // the dark top of a wall seen from above
+constexpr Tile kInnerWallWood{5, 21};    // wall faces, seen from inside
+constexpr Tile kInnerWallPlaster{6, 21};
+constexpr Tile kInnerWallStone{7, 21};
+constexpr Tile kInnerWindow{8, 21};
+constexpr Tile kInnerDoorway{9, 21};     // passable
+constexpr Tile kRug{10, 21};             // 3 x 3 on wood floor, passable: .at(col, row)
+constexpr Tile kTableLeft{0, 24};
+constexpr Tile kTableRight{1, 24};
+constexpr Tile kRoundTable{2, 24};
+constexpr Tile kChair[4] = {{3, 24}, {4, 24}, {5, 24}, {6, 24}}; // facing down, up, left, right
+constexpr Tile kStool{7, 24};
+constexpr Tile kBed{8, 24};              // 1 x 2: pillow end on top
+constexpr Tile kChest{9, 24};
+constexpr Tile kChestOpen{10, 24};
+constexpr Tile kBarrel{11, 24};
+constexpr Tile kCrate{12, 24};
+constexpr Tile kBookshelf{13, 24};
+constexpr Tile kCupboard{14, 24};
+constexpr Tile kFireplace{15, 24};
+constexpr Tile kVase{16, 24};
+constexpr Tile kCandles{17, 24};
+constexpr Tile kCounter[3] = {{18, 24}, {19, 24}, {20, 24}}; // shop counter: left, middle, right
+constexpr Tile kPottedPlant{21, 24};
+constexpr Tile kAnvil{22, 24};
+constexpr Tile kCauldron{23, 24};
+constexpr Tile kWeaponRack{24, 24};
+constexpr Tile kArmourStand{25, 24};
+constexpr Tile kSacks{26, 24};
+constexpr Tile kBench{27, 24};
+
+// ---- Dungeon and cave, rows 28 and 29 --------------------------------------
+constexpr Tile kDungeonWallTop{0, 28};
+constexpr Tile kDungeonWall{1, 28};
+constexpr Tile kDungeonTorch{2, 28};
+constexpr Tile kDungeonBanner{3, 28};
+constexpr Tile kPillar{4, 28};
+constexpr Tile kBones{5, 28};            // passable
+constexpr Tile kSkulls{6, 28};
+constexpr Tile kSpikes{7, 28};           // passable, for events to hurt
+constexpr Tile kDungeonStairsDown{8, 28};
+constexpr Tile kDungeonStairsUp{9, 28};
+constexpr Tile kIronDoor{10, 28};
+constexpr Tile kBars{11, 28};
+constexpr Tile kDungeonChest{12, 28};
+constexpr Tile kAltar{13, 28};
+constexpr Tile kGrate{14, 28};           // passable
+constexpr Tile kCoffin{15, 28};
+constexpr Tile kCaveWall{0, 29};
+constexpr Tile kCaveWallTop{1, 29};
+constexpr Tile kStalagmite{2, 29};
+constexpr Tile kCrystal{3, 29};
+constexpr Tile kCaveMushroom{4, 29};
+constexpr Tile kCaveRock{5, 29};
+constexpr Tile kWeb{6, 29};              // passable
+constexpr Tile kOreVein{7, 29};
+constexpr Tile kRubble{8, 29};
+constexpr Tile kCaveLadderUp{9, 29};     // passable
+
 } // namespace worldgen

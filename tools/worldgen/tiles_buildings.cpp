@@ -2,6 +2,8 @@
 #include "art.h"
 #include "palette.h"
 #include "tilesheet.h"
+#include "walls.h"
+#include "ground.h"
 
 #include <cmath>
 
@@ -61,15 +63,17 @@ void paintRoof(TileSheet& sheet, RoofSet set, RoofKind kind, const Ramp& ramp)
     sheet.put(set.chimney(), chimney, kBlocked);
 }
 
-enum class WallKind { Stone, Plaster, Wood, Brick };
-
 Rgb wallPixel(WallKind kind, int x, int y)
 {
     switch (kind) {
-    case WallKind::Stone: {
-        const int row = y / 6, u = (x + (row % 2) * 6) % 12, v = y % 6;
-        if (v == 5 || u == 11) return pal::kStone[0];
-        return shade(pal::kStone, 2.2 + (v == 0) * 0.9 - (u == 10) * 0.8 + (noise01((x + (row % 2) * 6) / 12, row, 8) - 0.5), x, y);
+    case WallKind::Stone:
+        return masonry(pal::kStone, x, y, 12, 6, 6, 8);
+    case WallKind::Dungeon:
+        return masonry(pal::kDungeon, x, y, 12, 8, 6, 9);
+    case WallKind::Cave: {
+        const double n = smoothNoise(x, y, 6, 24, 14), crack = std::abs(smoothNoise(x, y, 8, 24, 15) - 0.5);
+        if (crack < 0.03) return pal::kCave[0];
+        return shade(pal::kCave, 1.4 + n * 1.8 - (y > 18) * 0.6, x, y);
     }
     case WallKind::Plaster:
         if (y < 2 || y == 12) return pal::kWood[y == 0 ? 1 : 2];
@@ -88,7 +92,9 @@ Rgb wallPixel(WallKind kind, int x, int y)
     return kBlack;
 }
 
-Image wallTile(WallKind kind, int corner)
+} // namespace
+
+Image wallFace(WallKind kind, int corner)
 {
     Image img(24, 24);
     for (int y = 0; y < 24; ++y)
@@ -106,7 +112,7 @@ Image wallTile(WallKind kind, int corner)
     return img;
 }
 
-void window(Image& img)
+void drawWindow(Image& img)
 {
     Mask frame(24, 24), glass(24, 24);
     frame.rect(5, 4, 14, 13);
@@ -121,7 +127,7 @@ void window(Image& img)
     img.fill(4, 19, 16, 1, pal::kInk);
 }
 
-void door(Image& img, bool open)
+void drawDoor(Image& img, bool open)
 {
     Mask frame(24, 24), leaf(24, 24);
     frame.rect(4, 2, 16, 21);
@@ -142,17 +148,19 @@ void door(Image& img, bool open)
     img.set(15, 14, pal::kGold[1]);
 }
 
+namespace {
+
 void paintWalls(TileSheet& sheet, WallSet set, WallKind kind)
 {
-    sheet.put(set.left(), wallTile(kind, -1), kBlocked);
-    sheet.put(set.middle(), wallTile(kind, 0), kBlocked);
-    sheet.put(set.right(), wallTile(kind, 1), kBlocked);
-    Image win = wallTile(kind, 0);
-    window(win);
+    sheet.put(set.left(), wallFace(kind, -1), kBlocked);
+    sheet.put(set.middle(), wallFace(kind, 0), kBlocked);
+    sheet.put(set.right(), wallFace(kind, 1), kBlocked);
+    Image win = wallFace(kind, 0);
+    drawWindow(win);
     sheet.put(set.window(), win, kBlocked);
-    Image closed = wallTile(kind, 0), open = wallTile(kind, 0);
-    door(closed, false);
-    door(open, true);
+    Image closed = wallFace(kind, 0), open = wallFace(kind, 0);
+    drawDoor(closed, false);
+    drawDoor(open, true);
     sheet.put(set.door(), closed, kBlocked);
     sheet.put(set.doorOpen(), open, kPassable);
 }
@@ -160,7 +168,7 @@ void paintWalls(TileSheet& sheet, WallSet set, WallKind kind)
 // A plaster wall with a board on an iron arm, and a little picture of the trade on it.
 Image shopSign(int trade)
 {
-    Image img = wallTile(WallKind::Plaster, 0);
+    Image img = wallFace(WallKind::Plaster, 0);
     img.fill(3, 3, 18, 2, pal::kIron[0]);
     img.fill(5, 5, 1, 3, pal::kIron[1]);
     img.fill(18, 5, 1, 3, pal::kIron[1]);

@@ -9,14 +9,6 @@
 namespace worldgen {
 namespace {
 
-Image groundArea(Ground ground, int w, int h, int variant = 0)
-{
-    Image img(w, h);
-    for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x) img.set(x, y, groundPixel(ground, x, y, variant));
-    return img;
-}
-
 void trunk(Image& img, double x, double top, double bottom, double width, const Ramp& bark = pal::kWood)
 {
     Mask m(img.width(), img.height());

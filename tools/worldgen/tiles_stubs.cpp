@@ -1,6 +1,4 @@
 #include "tilesheet.h"
 namespace worldgen {
-void paintOutdoorThings(TileSheet&) {}
-void paintInterior(TileSheet&) {}
 void paintDungeon(TileSheet&) {}
 }
