@@ -1,4 +1,0 @@
-#include "tilesheet.h"
-namespace worldgen {
-void paintDungeon(TileSheet&) {}
-}
