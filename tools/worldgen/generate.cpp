@@ -1,5 +1,6 @@
 #include "generate.h"
 
+#include "gear.h"
 #include "tilesheet.h"
 
 #include <fstream>
@@ -21,6 +22,7 @@ FileSet generateAll()
     const TileSheet tiles = buildDefaultTileset();
     files["tilesets/default.bmp"] = encodeBmp(tiles.picture());
     files["tilesets/default.ubt"] = textRecord(tilesetRecord(tiles, "default.bmp"));
+    for (const PictureFile& f : dollPartFiles()) files[f.path] = encodeBmp(f.picture);
     return files;
 }
 

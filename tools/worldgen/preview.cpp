@@ -30,6 +30,60 @@ void saveTilesetParts(const QImage& sheet, const QString& out)
         }
 }
 
+// Stacks part sheets as the game does (mask ANDed, picture XORed, in its
+// part order per direction), then lays each figure masked onto a grass-green
+// backdrop: four directions down, three frames across, six times enlarged.
+QImage dressed(const QString& in, const QStringList& parts)
+{
+    QImage sheets[6]; // body, head, boots, gloves, weapon, shield
+    for (int i = 0; i < 6; ++i) sheets[i] = QImage(in + "/images/" + parts[i]).convertToFormat(QImage::Format_RGB32);
+    QImage out(3 * 32, 4 * 56, QImage::Format_RGB32);
+    out.fill(qRgb(78, 142, 58));
+    for (int dir = 0; dir < 4; ++dir) {
+        const bool backView = dir == 1 || dir == 3;
+        const int order[6] = {backView ? 5 : 4, 0, 1, 2, backView ? 4 : 3, backView ? 3 : 5};
+        for (int frame = 0; frame < 3; ++frame) {
+            QImage figure(24, 48, QImage::Format_RGB32);
+            figure.fill(Qt::black);
+            for (int part : order)
+                for (int y = 0; y < 48; ++y)
+                    for (int x = 0; x < 24; ++x) {
+                        const QRgb mask = sheets[part].pixel(48 * frame + 24 + x, 48 * dir + y);
+                        const QRgb pic = sheets[part].pixel(48 * frame + x, 48 * dir + y);
+                        figure.setPixel(x, y, ((figure.pixel(x, y) & mask) ^ pic) | 0xFF000000);
+                    }
+            for (int y = 0; y < 48; ++y)
+                for (int x = 0; x < 24; ++x)
+                    if ((figure.pixel(x, y) & 0xFFFFFF) != 0) out.setPixel(32 * frame + 4 + x, 56 * dir + 4 + y, figure.pixel(x, y));
+        }
+    }
+    return out.scaled(out.width() * 6, out.height() * 6);
+}
+
+void saveDolls(const QString& in, const QString& out)
+{
+    const QStringList outfits[] = {
+        {"bodies/defaultbody.bmp", "heads/defaulthead.bmp", "boots/defaultboots.bmp", "gloves/defaultgloves.bmp",
+         "weapons/defaultweapon.bmp", "shields/defaultshield.bmp"},
+        {"bodies/platearmour.bmp", "heads/ironhelm.bmp", "boots/ironboots.bmp", "gloves/irongauntlets.bmp",
+         "weapons/longsword.bmp", "shields/kiteshield.bmp"},
+        {"bodies/rangercloak.bmp", "heads/greenhood.bmp", "boots/leatherboots.bmp", "gloves/leathergloves.bmp",
+         "weapons/longbow.bmp", "shields/defaultshield.bmp"},
+        {"bodies/magerobe.bmp", "heads/wizardhat.bmp", "boots/sandals.bmp", "gloves/magegloves.bmp",
+         "weapons/embersword.bmp", "shields/woodenbuckler.bmp"},
+        {"bodies/chainmail.bmp", "heads/hornedhelm.bmp", "boots/furboots.bmp", "gloves/clothwraps.bmp",
+         "weapons/shortsword.bmp", "shields/towershield.bmp"},
+        {"bodies/leatherarmour.bmp", "heads/leathercap.bmp", "boots/leatherboots.bmp", "gloves/leathergloves.bmp",
+         "weapons/shortbow.bmp", "shields/roundshield.bmp"},
+    };
+    QImage all(6 * 96 * 6, 224 * 6, QImage::Format_RGB32);
+    QPainter painter(&all);
+    for (int i = 0; i < 6; ++i) painter.drawImage(i * 96 * 6, 0, dressed(in, outfits[i]));
+    painter.end();
+    all.scaled(all.width() / 2, all.height() / 2).save(out + "/dolls.png");
+    dressed(in, outfits[0]).save(out + "/doll_default.png");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -40,5 +94,6 @@ int main(int argc, char** argv)
     }
     const QString in = QString::fromLocal8Bit(argv[1]), out = QString::fromLocal8Bit(argv[2]);
     saveTilesetParts(QImage(in + "/tilesets/default.bmp"), out);
+    saveDolls(in, out);
     return 0;
 }
