@@ -27,6 +27,13 @@ bool usableRoot(const QString& root, QString& problem) {
     return true;
 }
 
+// The folder of the running program, known before the application object exists.
+QString programFolder(const char* argv0) {
+    QFileInfo self(QStringLiteral("/proc/self/exe"));
+    QString path = self.exists() ? self.canonicalFilePath() : QFileInfo(QString::fromLocal8Bit(argv0)).absoluteFilePath();
+    return QFileInfo(path).absolutePath();
+}
+
 QString optionValue(int argc, char** argv, const char* option) {
     for (int i = 1; i + 1 < argc; ++i)
         if (std::strcmp(argv[i], option) == 0)
@@ -44,19 +51,19 @@ bool hasFlag(int argc, char** argv, const char* flag) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (hasFlag(argc, argv, "--offscreen") || qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+    if (hasFlag(argc, argv, "--offscreen") || (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-
+    // The folder is checked before Qt starts, so a refusal is the only thing printed.
     QString root = optionValue(argc, argv, "--root");
     if (root.isEmpty())
-        root = QCoreApplication::applicationDirPath();
+        root = programFolder(argv[0]);
     root = QFileInfo(root).absoluteFilePath();
     QString problem;
     if (!usableRoot(root, problem)) {
         std::fprintf(stderr, "umbrith: %s\n", problem.toLocal8Bit().constData());
         return 2;
     }
+    QApplication app(argc, argv);
     umbrith::setAppPath(root);
 
     umbrith::RealPlatform realPlatform;

@@ -3,12 +3,12 @@
 
 namespace {
 
-struct Run {
+struct ProgramRun {
     int exitCode;
     QString errors;
 };
 
-Run runProgram(const QStringList& arguments) {
+ProgramRun runProgram(const QStringList& arguments) {
     QProcess process;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("QT_QPA_PLATFORM", "offscreen");
@@ -22,7 +22,7 @@ Run runProgram(const QStringList& arguments) {
 } // namespace
 
 TEST(ProgramTest, aMissingProgramFolderIsRefusedWithOneMessage) {
-    Run run = runProgram({"--root", "/nonexistent/umbrith"});
+    ProgramRun run = runProgram({"--root", "/nonexistent/umbrith"});
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_TRUE(run.errors.contains("does not exist")) << run.errors.toStdString();
     EXPECT_EQ(run.errors.count('\n'), 1);
@@ -30,7 +30,7 @@ TEST(ProgramTest, aMissingProgramFolderIsRefusedWithOneMessage) {
 
 TEST(ProgramTest, anUnwritableProgramFolderIsRefused) {
     // Not even root can create files in /proc.
-    Run run = runProgram({"--root", "/proc"});
+    ProgramRun run = runProgram({"--root", "/proc"});
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_TRUE(run.errors.contains("cannot be written")) << run.errors.toStdString();
 }
