@@ -1,6 +1,7 @@
 #include "generate.h"
 
 #include "gear.h"
+#include "music.h"
 #include "tilesheet.h"
 
 #include <fstream>
@@ -23,6 +24,7 @@ FileSet generateAll()
     files["tilesets/default.bmp"] = encodeBmp(tiles.picture());
     files["tilesets/default.ubt"] = textRecord(tilesetRecord(tiles, "default.bmp"));
     for (const PictureFile& f : dollPartFiles()) files[f.path] = encodeBmp(f.picture);
+    for (const MusicFile& m : composeAll()) files[m.path] = encodeMidi(m.song);
     return files;
 }
 
