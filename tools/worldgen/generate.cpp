@@ -2,6 +2,7 @@
 
 #include "gear.h"
 #include "music.h"
+#include "sound.h"
 #include "tilesheet.h"
 
 #include <fstream>
@@ -25,6 +26,7 @@ FileSet generateAll()
     files["tilesets/default.ubt"] = textRecord(tilesetRecord(tiles, "default.bmp"));
     for (const PictureFile& f : dollPartFiles()) files[f.path] = encodeBmp(f.picture);
     for (const MusicFile& m : composeAll()) files[m.path] = encodeMidi(m.song);
+    for (const SoundFile& s : synthesiseAll()) files[s.path] = encodeWav(s.samples);
     return files;
 }
 
