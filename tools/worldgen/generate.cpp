@@ -1,6 +1,7 @@
 #include "generate.h"
 
 #include "gear.h"
+#include "marks.h"
 #include "music.h"
 #include "sound.h"
 #include "tilesheet.h"
@@ -24,7 +25,11 @@ FileSet generateAll()
     const TileSheet tiles = buildDefaultTileset();
     files["tilesets/default.bmp"] = encodeBmp(tiles.picture());
     files["tilesets/default.ubt"] = textRecord(tilesetRecord(tiles, "default.bmp"));
+    files["images/specialpics.bmp"] = encodeBmp(specialMarks());
+    files["images/grounditems.bmp"] = encodeBmp(groundItemIcon());
+    files["images/night1.bmp"] = encodeBmp(nightOverlay());
     for (const PictureFile& f : dollPartFiles()) files[f.path] = encodeBmp(f.picture);
+    for (const PictureFile& f : npcFiles()) files[f.path] = encodeBmp(f.picture);
     for (const MusicFile& m : composeAll()) files[m.path] = encodeMidi(m.song);
     for (const SoundFile& s : synthesiseAll()) files[s.path] = encodeWav(s.samples);
     return files;

@@ -1,5 +1,6 @@
 // umbrith-worldgen-preview PROGRAM_FOLDER OUT_FOLDER: enlarged PNGs of the
 // generated art, with the paper doll stacked the way the game stacks it, to look at.
+#include <QDir>
 #include <QImage>
 #include <QPainter>
 
@@ -84,6 +85,24 @@ void saveDolls(const QString& in, const QString& out)
     dressed(in, outfits[0]).save(out + "/doll_default.png");
 }
 
+// Every NPC sheet side by side, drawn masked onto green, enlarged.
+void saveNpcs(const QString& in, const QString& out)
+{
+    const QStringList names = QDir(in + "/images/npcs").entryList({"*.bmp"}, QDir::Files, QDir::Name);
+    QImage all(names.size() * 80, 200, QImage::Format_RGB32);
+    all.fill(qRgb(78, 142, 58));
+    for (int i = 0; i < names.size(); ++i) {
+        const QImage sheet = QImage(in + "/images/npcs/" + names[i]).convertToFormat(QImage::Format_RGB32);
+        for (int dir = 0; dir < 4; ++dir)
+            for (int frame = 0; frame < 3; ++frame)
+                for (int y = 0; y < 48; ++y)
+                    for (int x = 0; x < 24; ++x)
+                        if (sheet.pixel(48 * frame + 24 + x, 48 * dir + y) == qRgb(0, 0, 0))
+                            all.setPixel(i * 80 + frame * 26 + x, dir * 50 + y, sheet.pixel(48 * frame + x, 48 * dir + y));
+    }
+    all.scaled(all.width() * 3, all.height() * 3).save(out + "/npcs.png");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -95,5 +114,6 @@ int main(int argc, char** argv)
     const QString in = QString::fromLocal8Bit(argv[1]), out = QString::fromLocal8Bit(argv[2]);
     saveTilesetParts(QImage(in + "/tilesets/default.bmp"), out);
     saveDolls(in, out);
+    saveNpcs(in, out);
     return 0;
 }
