@@ -1,23 +1,11 @@
 #include "core/value.h"
 #include "platform/error.h"
+#include "tests/support/errorof.h"
 #include "tests/support/qtprint.h"
 
 #include <gtest/gtest.h>
 
 using namespace umbrith;
-
-namespace {
-
-int errorOf(auto&& call) {
-    try {
-        call();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
-
-} // namespace
 
 TEST(ValTest, readsTheNumericPrefixAndNeverFails) {
     EXPECT_EQ(Val("007"), 7);

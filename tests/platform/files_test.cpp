@@ -1,4 +1,5 @@
 #include "platform/error.h"
+#include "tests/support/errorof.h"
 #include "tests/support/qtprint.h"
 #include "platform/files.h"
 
@@ -10,15 +11,6 @@
 using namespace umbrith;
 
 namespace {
-
-int errorOf(auto&& call) {
-    try {
-        call();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 class FilesTest : public ::testing::Test {
 protected:
