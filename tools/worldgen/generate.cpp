@@ -1,5 +1,6 @@
 #include "generate.h"
 
+#include "enemies.h"
 #include "gear.h"
 #include "marks.h"
 #include "music.h"
@@ -30,6 +31,7 @@ FileSet generateAll()
     files["images/night1.bmp"] = encodeBmp(nightOverlay());
     for (const PictureFile& f : dollPartFiles()) files[f.path] = encodeBmp(f.picture);
     for (const PictureFile& f : npcFiles()) files[f.path] = encodeBmp(f.picture);
+    for (const PictureFile& f : enemyFiles()) files[f.path] = encodeBmp(f.picture);
     for (const MusicFile& m : composeAll()) files[m.path] = encodeMidi(m.song);
     for (const SoundFile& s : synthesiseAll()) files[s.path] = encodeWav(s.samples);
     return files;

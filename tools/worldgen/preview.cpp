@@ -103,6 +103,18 @@ void saveNpcs(const QString& in, const QString& out)
     all.scaled(all.width() * 3, all.height() * 3).save(out + "/npcs.png");
 }
 
+void saveEnemies(const QString& in, const QString& out)
+{
+    const QStringList names = QDir(in + "/images/enemypics").entryList({"*.bmp"}, QDir::Files, QDir::Name);
+    QImage all(5 * 196, 2 * 196, QImage::Format_RGB32);
+    all.fill(qRgb(40, 40, 60));
+    QPainter painter(&all);
+    for (int i = 0; i < names.size(); ++i)
+        painter.drawImage((i % 5) * 196, (i / 5) * 196, QImage(in + "/images/enemypics/" + names[i]));
+    painter.end();
+    all.save(out + "/enemies.png");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -115,5 +127,6 @@ int main(int argc, char** argv)
     saveTilesetParts(QImage(in + "/tilesets/default.bmp"), out);
     saveDolls(in, out);
     saveNpcs(in, out);
+    saveEnemies(in, out);
     return 0;
 }
