@@ -83,7 +83,7 @@ Samples finish(Samples s, double peak = 0.7)
 {
     const std::size_t fade = kSampleRate / 200; // 5 ms
     for (std::size_t i = 0; i < fade && i < s.size(); ++i) {
-        const double g = double(i) / fade;
+        const double g = 0.5 - 0.5 * std::cos(kPi * i / fade); // raised cosine: no kink at either end
         s[i] *= g;
         s[s.size() - 1 - i] *= g;
     }
