@@ -86,7 +86,7 @@ Image startMark()
     flag.polygon({{8, 2}, {21, 6}, {8, 11}});
     drawBlock(img, base, pal::kStone, pal::kInk);
     drawBlock(img, pole, pal::kWood, pal::kInk, 3);
-    drawBlock(img, flag, pal::kGreenCloth, pal::kInk, 3);
+    drawBlock(img, flag, pal::kRed, pal::kInk, 3);
     return img;
 }
 

@@ -115,6 +115,26 @@ void saveEnemies(const QString& in, const QString& out)
     all.save(out + "/enemies.png");
 }
 
+// The editor's marks and the pile icon over grass, and the night over a sunny green.
+void saveMarks(const QString& in, const QString& out)
+{
+    QImage all(300, 120, QImage::Format_RGB32);
+    all.fill(qRgb(78, 142, 58));
+    auto masked = [&](const QImage& src, int sx, int dx, int dy) {
+        for (int y = 0; y < 24; ++y)
+            for (int x = 0; x < 24; ++x)
+                all.setPixel(dx + x, dy + y, ((all.pixel(dx + x, dy + y) & src.pixel(sx + 24 + x, y)) ^ src.pixel(sx + x, y)) | 0xFF000000);
+    };
+    const QImage marks = QImage(in + "/images/specialpics.bmp").convertToFormat(QImage::Format_RGB32);
+    for (int i = 0; i < 5; ++i) masked(marks, 48 * i, 4 + 30 * i, 4);
+    masked(QImage(in + "/images/grounditems.bmp").convertToFormat(QImage::Format_RGB32), 0, 160, 4);
+    const QImage night = QImage(in + "/images/night1.bmp").convertToFormat(QImage::Format_RGB32);
+    for (int y = 40; y < 120; ++y)
+        for (int x = 0; x < 300; ++x)
+            all.setPixel(x, y, ((all.pixel(x, y) & night.pixel(434 + x, y)) ^ night.pixel(x, y)) | 0xFF000000);
+    all.scaled(all.width() * 3, all.height() * 3).save(out + "/marks.png");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -128,5 +148,6 @@ int main(int argc, char** argv)
     saveDolls(in, out);
     saveNpcs(in, out);
     saveEnemies(in, out);
+    saveMarks(in, out);
     return 0;
 }
