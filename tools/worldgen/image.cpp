@@ -1,5 +1,7 @@
 #include "image.h"
 
+#include "bytes.h"
+
 #include <cmath>
 
 namespace worldgen {
@@ -53,16 +55,6 @@ Image Image::mirrored() const
 }
 
 namespace {
-void put16(std::vector<std::uint8_t>& out, unsigned v)
-{
-    out.push_back(v & 0xFF);
-    out.push_back((v >> 8) & 0xFF);
-}
-void put32(std::vector<std::uint8_t>& out, unsigned v)
-{
-    put16(out, v & 0xFFFF);
-    put16(out, v >> 16);
-}
 } // namespace
 
 // BITMAPFILEHEADER + BITMAPINFOHEADER, uncompressed, rows bottom-up padded to 4 bytes.
@@ -74,20 +66,20 @@ std::vector<std::uint8_t> encodeBmp(const Image& image)
     out.reserve(54 + dataBytes);
     out.push_back('B');
     out.push_back('M');
-    put32(out, 54 + dataBytes);
-    put32(out, 0);
-    put32(out, 54);
-    put32(out, 40);
-    put32(out, image.width());
-    put32(out, image.height());
-    put16(out, 1);
-    put16(out, 24);
-    put32(out, 0);
-    put32(out, dataBytes);
-    put32(out, 2835); // 72 dpi
-    put32(out, 2835);
-    put32(out, 0);
-    put32(out, 0);
+    put32le(out, 54 + dataBytes);
+    put32le(out, 0);
+    put32le(out, 54);
+    put32le(out, 40);
+    put32le(out, image.width());
+    put32le(out, image.height());
+    put16le(out, 1);
+    put16le(out, 24);
+    put32le(out, 0);
+    put32le(out, dataBytes);
+    put32le(out, 2835); // 72 dpi
+    put32le(out, 2835);
+    put32le(out, 0);
+    put32le(out, 0);
     for (int y = image.height() - 1; y >= 0; --y) {
         for (int x = 0; x < image.width(); ++x) {
             const Rgb c = image.at(x, y);

@@ -1,5 +1,7 @@
 #include "sound.h"
 
+#include "bytes.h"
+
 #include "art.h"
 
 #include <algorithm>
@@ -12,16 +14,6 @@ namespace {
 constexpr double kPi = 3.14159265358979;
 using Samples = std::vector<double>;
 
-void put16(std::vector<std::uint8_t>& out, unsigned v)
-{
-    out.push_back(v & 0xFF);
-    out.push_back((v >> 8) & 0xFF);
-}
-void put32(std::vector<std::uint8_t>& out, unsigned v)
-{
-    put16(out, v & 0xFFFF);
-    put16(out, v >> 16);
-}
 
 Samples silence(double seconds) { return Samples(static_cast<std::size_t>(seconds * kSampleRate), 0.0); }
 
@@ -109,20 +101,20 @@ std::vector<std::uint8_t> encodeWav(const std::vector<double>& samples)
 {
     std::vector<std::uint8_t> out{'R', 'I', 'F', 'F'};
     const unsigned dataBytes = static_cast<unsigned>(samples.size() * 2);
-    put32(out, 36 + dataBytes);
+    put32le(out, 36 + dataBytes);
     out.insert(out.end(), {'W', 'A', 'V', 'E', 'f', 'm', 't', ' '});
-    put32(out, 16);
-    put16(out, 1); // PCM
-    put16(out, 1); // mono
-    put32(out, kSampleRate);
-    put32(out, kSampleRate * 2);
-    put16(out, 2);
-    put16(out, 16);
+    put32le(out, 16);
+    put16le(out, 1); // PCM
+    put16le(out, 1); // mono
+    put32le(out, kSampleRate);
+    put32le(out, kSampleRate * 2);
+    put16le(out, 2);
+    put16le(out, 16);
     out.insert(out.end(), {'d', 'a', 't', 'a'});
-    put32(out, dataBytes);
+    put32le(out, dataBytes);
     for (double v : samples) {
         const int q = static_cast<int>(std::lround(std::clamp(v, -1.0, 1.0) * 32767));
-        put16(out, static_cast<unsigned>(q) & 0xFFFF);
+        put16le(out, static_cast<unsigned>(q) & 0xFFFF);
     }
     return out;
 }

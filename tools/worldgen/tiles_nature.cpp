@@ -192,6 +192,25 @@ Image hedge()
     return img;
 }
 
+// A one-tile tree with a round crown, on grass.
+Image roundTree(int variant, const Ramp& leaves, int seed, const Ramp* fruitColour = nullptr)
+{
+    Image img = groundArea(Ground::Grass, 24, 24, variant);
+    trunk(img, 12, 14, 22, 4);
+    crown(img, 12, 9, 10, 8, 4, leaves, seed);
+    if (fruitColour) fruit(img, 5, *fruitColour, seed);
+    return img;
+}
+
+// A one-tile fir on the given ground.
+Image smallFir(Ground ground, bool snowy)
+{
+    Image img = groundArea(ground, 24, 24, 0);
+    trunk(img, 12, 18, 22, 3);
+    pineTiers(img, 12, 1, 19, 8, 3, pal::kPine, snowy);
+    return img;
+}
+
 } // namespace
 
 void paintNature(TileSheet& sheet)
@@ -214,22 +233,9 @@ void paintNature(TileSheet& sheet)
     sheet.putBlock(kPalm, palm(), kBlocked);
     sheet.putBlock(kBoulder, rock(Ground::Grass, 20, 16, 8, pal::kStone, 48, 48), kBlocked);
 
-    Image round = groundArea(Ground::Grass, 24, 24, 2);
-    trunk(round, 12, 14, 22, 4);
-    crown(round, 12, 9, 10, 8, 4, pal::kLeaf, 5);
-    sheet.put(kRoundTree, round, kBlocked);
-
-    Image fruitTree = groundArea(Ground::Grass, 24, 24, 3);
-    trunk(fruitTree, 12, 14, 22, 4);
-    crown(fruitTree, 12, 9, 10, 8, 4, pal::kGreenCloth, 6);
-    fruit(fruitTree, 5, pal::kFlowerRed, 6);
-    sheet.put(kFruitTree, fruitTree, kBlocked);
-
-    Image smallPine = groundArea(Ground::Grass, 24, 24, 0);
-    trunk(smallPine, 12, 18, 22, 3);
-    pineTiers(smallPine, 12, 1, 19, 8, 3, pal::kPine);
-    sheet.put(kSmallPine, smallPine, kBlocked);
-
+    sheet.put(kRoundTree, roundTree(2, pal::kLeaf, 5), kBlocked);
+    sheet.put(kFruitTree, roundTree(3, pal::kGreenCloth, 6, &pal::kFlowerRed), kBlocked);
+    sheet.put(kSmallPine, smallFir(Ground::Grass, false), kBlocked);
     sheet.put(kDeadTree, deadTree(), kBlocked);
     sheet.put(kStump, stumpOrLog(false), kBlocked);
     sheet.put(kBush, bush(Ground::Grass, pal::kLeaf, nullptr, 21), kBlocked);
@@ -241,17 +247,11 @@ void paintNature(TileSheet& sheet)
     sheet.put(kLog, stumpOrLog(true), kBlocked);
     sheet.put(kHedge, hedge(), kBlocked);
 
-    Image snowPine = groundArea(Ground::Snow, 24, 24, 0);
-    trunk(snowPine, 12, 18, 22, 3);
-    pineTiers(snowPine, 12, 1, 19, 8, 3, pal::kPine, true);
-    sheet.put(kSnowPine, snowPine, kBlocked);
+    sheet.put(kSnowPine, smallFir(Ground::Snow, true), kBlocked);
     sheet.put(kSnowRock, rock(Ground::Snow, 9, 7, 34), kBlocked);
     sheet.put(kCactus, cactus(), kBlocked);
 
-    Image autumn = groundArea(Ground::Grass, 24, 24, 1);
-    trunk(autumn, 12, 14, 22, 4);
-    crown(autumn, 12, 9, 10, 8, 4, pal::kThatch, 7);
-    sheet.put(kAutumnTree, autumn, kBlocked);
+    sheet.put(kAutumnTree, roundTree(1, pal::kThatch, 7), kBlocked);
     sheet.put(kSnowBush, bush(Ground::Snow, pal::kPine, &pal::kFlowerRed, 24), kBlocked);
     sheet.put(kDirtRock, rock(Ground::Dirt, 8, 6, 35, pal::kCobble), kBlocked);
     sheet.put(kShrubDirt, bush(Ground::Dirt, pal::kGreenCloth, nullptr, 25), kBlocked);
