@@ -1,5 +1,6 @@
 #include "shell/controls.h"
 
+#include <QFrame>
 #include <QMouseEvent>
 
 namespace umbrith {
@@ -13,6 +14,21 @@ void ClickLabel::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
         emit clicked();
     QLabel::mouseReleaseEvent(event);
+}
+
+QFrame* panel(const char* name, const QRect& geometry, QWidget* parent) {
+    auto* frame = new QFrame(parent);
+    frame->setObjectName(QLatin1String(name));
+    frame->setGeometry(geometry);
+    frame->setStyleSheet(look::frameStyle());
+    frame->hide();
+    return frame;
+}
+
+QLabel* heading(const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setStyleSheet(QStringLiteral("color: %1; font-size: 18px; font-weight: bold;").arg(QLatin1String(look::gold)));
+    return label;
 }
 
 QString arrayName(const char* name, int index) { return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index); }

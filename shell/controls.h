@@ -3,6 +3,8 @@
 #include <QLabel>
 #include <QString>
 
+class QFrame;
+class QRect;
 class QWidget;
 
 namespace umbrith {
@@ -19,6 +21,11 @@ signals:
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 };
+
+// A panel of the screen: a named frame, hidden until its key or menu shows it.
+QFrame* panel(const char* name, const QRect& geometry, QWidget* parent);
+// A gold caption at the head of a panel.
+QLabel* heading(const QString& text, QWidget* parent);
 
 // A member of a control array carries its index in its name: "lblshowatstart(5)".
 QString arrayName(const char* name, int index);

@@ -32,21 +32,6 @@ QAction* addItem(QMenu* menu, const char* name, const QString& caption) {
     return action;
 }
 
-QFrame* panel(const char* name, const QRect& geometry, QWidget* parent) {
-    auto* frame = new QFrame(parent);
-    frame->setObjectName(QLatin1String(name));
-    frame->setGeometry(geometry);
-    frame->setStyleSheet(look::frameStyle());
-    frame->hide();
-    return frame;
-}
-
-QLabel* heading(const QString& text, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
-    label->setStyleSheet(QStringLiteral("color: %1; font-size: 18px; font-weight: bold;").arg(QLatin1String(look::gold)));
-    return label;
-}
-
 Sequencer& ubmid() { return platform().audio.sequencer(QStringLiteral("ubmid")); }
 
 } // namespace

@@ -15,11 +15,7 @@
 namespace umbrith {
 
 void Main::buildMessages() {
-    MessageFrame_ = new QFrame(centralWidget());
-    MessageFrame_->setObjectName(QStringLiteral("MessageFrame"));
-    MessageFrame_->setGeometry(16, 300, 432, 124);
-    MessageFrame_->setStyleSheet(look::frameStyle());
-    MessageFrame_->hide();
+    MessageFrame_ = panel("MessageFrame", QRect(16, 300, 432, 124), centralWidget());
     lblmsgsource_ = new QLabel(MessageFrame_);
     lblmsgsource_->setObjectName(QStringLiteral("lblmsgsource"));
     lblmsgsource_->setGeometry(10, 4, 412, 20);
@@ -34,14 +30,8 @@ void Main::buildMessages() {
 }
 
 void Main::buildJournal() {
-    journalframe_ = new QFrame(centralWidget());
-    journalframe_->setObjectName(QStringLiteral("journalframe"));
-    journalframe_->setGeometry(16, 16, 432, 408);
-    journalframe_->setStyleSheet(look::frameStyle());
-    journalframe_->hide();
-    auto* title = new QLabel(QStringLiteral("Journal"), journalframe_);
-    title->setGeometry(14, 8, 300, 28);
-    title->setStyleSheet(QStringLiteral("color: %1; font-size: 18px; font-weight: bold;").arg(QLatin1String(look::gold)));
+    journalframe_ = panel("journalframe", QRect(16, 16, 432, 408), centralWidget());
+    heading(QStringLiteral("Journal"), journalframe_)->setGeometry(14, 8, 300, 28);
     txtJE_ = new QTextEdit(journalframe_);
     txtJE_->setObjectName(QStringLiteral("txtJE"));
     txtJE_->setGeometry(12, 40, 408, 326);

@@ -30,6 +30,14 @@ protected:
         main->show();
     }
 
+    // Starts the game on a one-map custom level, as "Play Custom Levels" does.
+    void startCustomGame() {
+        writeFile("\\maps\\field.ubm", "map");
+        start();
+        scripted.queueFile(AppPath() + "\\maps\\field.ubm");
+        press(Qt::Key_P);
+    }
+
     void press(int key) {
         QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
         QApplication::sendEvent(main->findChild<QWidget*>("background"), &event);
@@ -147,10 +155,7 @@ TEST_F(MainFormTest, theArenaPopupHoldsThePanelUntilClosedAndTheTimerNotices) {
 }
 
 TEST_F(MainFormTest, playingACustomMapRunsTheGameAndTheJournalOpensAndClosesByKey) {
-    writeFile("\\maps\\field.ubm", "map");
-    start();
-    scripted.queueFile(AppPath() + "\\maps\\field.ubm");
-    press(Qt::Key_P);
+    startCustomGame();
     EXPECT_TRUE(isTrue(game.GameRunning));
     EXPECT_EQ(game.PlayerName.text(), "Tester");
     EXPECT_EQ(game.CurrentLevel.text(), "field.ubm");
@@ -166,10 +171,7 @@ TEST_F(MainFormTest, playingACustomMapRunsTheGameAndTheJournalOpensAndClosesByKe
 }
 
 TEST_F(MainFormTest, creatingLevelsFromARunningGameAsksThenLeavesItForTheEditorAndBack) {
-    writeFile("\\maps\\field.ubm", "map");
-    start();
-    scripted.queueFile(AppPath() + "\\maps\\field.ubm");
-    press(Qt::Key_P);
+    startCustomGame();
     game.ItemsCarried = "/Potion";
     scripted.queueAnswer(Answer::Yes);
     control<QAction>("mnuMainCreateCustom")->trigger();

@@ -119,21 +119,21 @@ TEST_F(ScriptRunTest, aPopupIsLoggedAndItsCloseFreesTheScreen) {
 }
 
 TEST_F(ScriptRunTest, aLineThatCannotBeCarriedOutNamesItsNumberAndFails) {
-    ProgramRun unknown = play("random 0.1\n# a comment\njump high\n");
-    EXPECT_EQ(unknown.exitCode, 1);
-    EXPECT_TRUE(unknown.errors.contains("line 3: unknown command \"jump\"")) << unknown.errors.toStdString();
-
-    ProgramRun missing = play("random 0.1\nclick cmdNowhere\n");
-    EXPECT_EQ(missing.exitCode, 1);
-    EXPECT_TRUE(missing.errors.contains("line 2: no control named \"cmdNowhere\"")) << missing.errors.toStdString();
-
-    ProgramRun unanswered = play("random 0.1\nkey X\n");
-    EXPECT_EQ(unanswered.exitCode, 1);
-    EXPECT_TRUE(unanswered.errors.contains("line 2: no answer for the box \"Are you sure?\"")) << unanswered.errors.toStdString();
-
-    ProgramRun leftover = play("random 0.1 0.2\n");
-    EXPECT_EQ(leftover.exitCode, 1);
-    EXPECT_TRUE(leftover.errors.contains("1 random draw(s) left unused")) << leftover.errors.toStdString();
+    const struct {
+        const char* script;
+        const char* error;
+    } cases[] = {
+        {"random 0.1\n# a comment\njump high\n", "line 3: unknown command \"jump\""},
+        {"random 0.1\nclick cmdNowhere\n", "line 2: no control named \"cmdNowhere\""},
+        {"random 0.1\nkey X\n", "line 2: no answer for the box \"Are you sure?\""},
+        {"random 0.1 0.2\n", "end of script: 1 random draw(s) left unused"},
+        {"random 1.5\n", "line 1: \"1.5\" is not a draw in [0, 1)"},
+    };
+    for (const auto& c : cases) {
+        ProgramRun run = play(c.script);
+        EXPECT_EQ(run.exitCode, 1) << c.script;
+        EXPECT_TRUE(run.errors.contains(c.error)) << run.errors.toStdString();
+    }
 }
 
 TEST_F(ScriptRunTest, aScreenshotIsAPictureOfTheNamedControl) {
