@@ -1,6 +1,8 @@
 #include "core/misc.h"
 #include "platform/real/realplatform.h"
+#include "core/gamerecord.h"
 #include "shell/mainform.h"
+#include "shell/scriptplay.h"
 
 #include <QApplication>
 #include <QDir>
@@ -66,9 +68,15 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     umbrith::setAppPath(root);
 
+    const QString script = optionValue(argc, argv, "--script");
+    if (!script.isEmpty())
+        return umbrith::runScript(script);
+
     umbrith::RealPlatform realPlatform;
     realPlatform.install();
-    umbrith::Main mainForm;
+    umbrith::GameRecord game;
+    umbrith::Main mainForm(game);
+    QObject::connect(&mainForm, &umbrith::Main::programEnded, &app, &QApplication::quit, Qt::QueuedConnection);
     mainForm.show();
     return app.exec();
 }

@@ -1,20 +1,108 @@
 #pragma once
 
-#include <QMainWindow>
+#include "core/gamerecord.h"
+#include "shell/rules/mainstate.h"
+#include "shell/rules/startup.h"
 
+#include <QMainWindow>
+#include <memory>
+
+class QButtonGroup;
+class QCheckBox;
+class QFrame;
+class QLabel;
 class QMenu;
+class QTextEdit;
 
 namespace umbrith {
 
-// The game's screen and the shell of the whole tool set.
+class ClickLabel;
+class LevelMaker;
+class PopupBox;
+class Timer;
+
+// The game's screen and the shell of the whole tool set: the intro with its
+// start menu, the menus and options, messages, the popup and the journal.
+// All keys of its controls come to one handler first.
 class Main : public QMainWindow {
     Q_OBJECT
 public:
-    explicit Main(QWidget* parent = nullptr);
+    explicit Main(GameRecord& game, QWidget* parent = nullptr);
+    ~Main() override;
+
+    GameRecord& game() const { return game_; }
+    const MainState& state() const { return state_; }
+    // The map loader; the world runtime installs the real one.
+    ChangemapFunction Changemap = ChangemapTakesMapAsLoaded;
+
+    void StartIntro();
+    void PlayGame(int mode);
+    void StartMessage(const QString& source, const QString& text);
+    void ShowPopup(const QString& text, const QString& title);
+    void ShowJournal();
+
+signals:
+    void popupShown(const QString& title, const QString& text);
+    // The player left through one of the exits: the program ends.
+    void programEnded();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
+    void buildMenus();
+    void buildScreen();
+    void buildIntro();
+    void buildOptions();
+    void buildMessages();
+    void buildJournal();
+    void FormLoad();
+
+    void introTick();
+    void musicDone(int status);
+    bool askExit();
+    void endProgram();
+    void mnuMainCreateCustom_Click();
+    void mnuMainPlayCustom_Click();
+    void mnuMainOptions_Click();
+    void cmdDone_Click();
+    void closeJournal();
+    void popupDisplayTick();
+
+    MessageMode messageMode() const;
+    void showMessageState();
+    void messageTick();
+    bool KeyDown(int key);
+    bool letterKey(char letter);
+    void giveBackgroundFocus();
+    QAction* action(const char* name) const;
+
+    GameRecord& game_;
+    MainState state_;
+    std::unique_ptr<LevelMaker> levelMaker_;
+
     QMenu* mnuMain_;
     QMenu* mnuHelp_;
+    QLabel* background_;
+    QLabel* totallevel_;
+    QFrame* introframe_;
+    QLabel* lblintromsg_;
+    QFrame* optionsframe_;
+    QCheckBox* chkMusic_;
+    QCheckBox* chkSounds_;
+    QButtonGroup* optmessage_;
+    QFrame* MessageFrame_;
+    QLabel* lblmsgsource_;
+    QTextEdit* txtmessage_;
+    QFrame* journalframe_;
+    QTextEdit* txtJE_;
+    QList<QLabel*> lblPStats_;
+    PopupBox* PopupBox_;
+
+    std::unique_ptr<Timer> introtimer_;
+    std::unique_ptr<Timer> typemessage_;
+    std::unique_ptr<Timer> popupdisplay_;
 };
 
 } // namespace umbrith

@@ -53,6 +53,8 @@ public:
     QStringList sounds; // "sound <path>", "<device> <command> <file>"
     // Problems so far, and the answers and draws never used.
     QStringList problems() const;
+    // The boxes, dialogs and draws that found no answer, in order.
+    const QStringList& unanswered() const { return missing_; }
     void logBox(const QString& kind, const QString& title, const QString& text) { boxes.append({kind, title, text}); }
 
 private:

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QLabel>
+#include <QString>
+
+class QFrame;
+class QRect;
+class QWidget;
+
+namespace umbrith {
+
+// A label that acts when clicked, as the game's "cmd" and menu labels do.
+class ClickLabel : public QLabel {
+    Q_OBJECT
+public:
+    ClickLabel(const QString& name, const QString& caption, QWidget* parent);
+
+signals:
+    void clicked();
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+};
+
+// A panel of the screen: a named frame, hidden until its key or menu shows it.
+QFrame* panel(const char* name, const QRect& geometry, QWidget* parent);
+// A gold caption at the head of a panel.
+QLabel* heading(const QString& text, QWidget* parent);
+
+// A member of a control array carries its index in its name: "lblshowatstart(5)".
+QString arrayName(const char* name, int index);
+
+// The look shared by the game's forms: dark stone, parchment text, gold accents.
+namespace look {
+extern const char* const gold;
+extern const char* const parchment;
+QString formStyle();
+QString frameStyle();
+} // namespace look
+
+} // namespace umbrith

@@ -1,0 +1,84 @@
+// Main's one key handler: every key of its controls comes here first.
+#include "shell/mainform.h"
+
+#include <QAction>
+#include <QFrame>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QTextEdit>
+
+namespace umbrith {
+
+bool Main::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return QMainWindow::eventFilter(watched, event);
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (!widget || widget->window() != this)
+        return QMainWindow::eventFilter(watched, event);
+    return KeyDown(static_cast<QKeyEvent*>(event)->key());
+}
+
+// Message keys first, then the letters by the panel that is open. Returns
+// whether the key was used, so an unused one still reaches its control.
+bool Main::KeyDown(int key) {
+    MessageState& message = state_.message;
+    if (message.MessageActive && (key == Qt::Key_Space || key == Qt::Key_M)) {
+        if (!MessageKey(game_, message, key == Qt::Key_M ? 'M' : ' ', messageMode()))
+            return false;
+        showMessageState();
+        if (!message.MessageActive)
+            MessageFrame_->hide();
+        return true;
+    }
+    if (key == Qt::Key_Escape) {
+        const bool shown = mnuMain_->menuAction()->isVisible();
+        mnuMain_->menuAction()->setVisible(!shown);
+        mnuHelp_->menuAction()->setVisible(!shown);
+        return true;
+    }
+    if (key >= Qt::Key_A && key <= Qt::Key_Z)
+        return letterKey(char('A' + (key - Qt::Key_A)));
+    return false;
+}
+
+bool Main::letterKey(char letter) {
+    const bool intro = introframe_->isVisible();
+    const bool running = isTrue(game_.GameRunning);
+    const bool panelOpen = isTrue(game_.ScreenPanelOpen);
+    switch (letter) {
+    case 'B':
+        if (intro && !running)
+            action("mnuMainBattle")->trigger();
+        return true;
+    case 'C':
+        if (intro || !running)
+            action("mnuMainCreateCustom")->trigger();
+        else if (journalframe_->isVisible())
+            closeJournal();
+        return true;
+    case 'J':
+        if (running && !panelOpen)
+            ShowJournal();
+        return true;
+    case 'L':
+        action("mnuMainLoad")->trigger();
+        return true;
+    case 'N':
+        action("mnuMainNew")->trigger();
+        return true;
+    case 'O':
+        action("mnuMainOptions")->trigger();
+        return true;
+    case 'P':
+        if (intro)
+            action("mnuMainPlayCustom")->trigger();
+        return true;
+    case 'X':
+        action("mnuMainExit")->trigger();
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace umbrith

@@ -1,0 +1,91 @@
+#include "shell/rules/startup.h"
+
+#include "core/misc.h"
+#include "platform/files.h"
+#include "platform/platform.h"
+
+namespace umbrith {
+
+void ChangeDisplay(MainState& state, int, int, int) {
+    const DisplayMode mode = platform().display.current();
+    if (state.SavedScreenDepth == 0) {
+        state.SavedScreenWidth = mode.width;
+        state.SavedScreenHeight = mode.height;
+        state.SavedScreenDepth = mode.depth;
+    }
+}
+
+void EnterGameDisplay(MainState& state) {
+    state.SavedScreenDepth = 0;
+    const DisplayMode mode = platform().display.current();
+    if (mode.width == 800 && mode.height == 600 && mode.depth == 16) {
+        state.DisplayModeChanged = false;
+        return;
+    }
+    ChangeDisplay(state, 800, 600, 16);
+    state.DisplayModeChanged = true;
+}
+
+void RestoreDisplay(MainState& state) {
+    if (state.DisplayModeChanged)
+        ChangeDisplay(state, state.SavedScreenWidth, state.SavedScreenHeight, state.SavedScreenDepth);
+}
+
+void ChangemapTakesMapAsLoaded(GameRecord& game, MainState& state, const QString& mapPath, bool, const QString&) {
+    state.CurrentMapPath = mapPath.trimmed();
+    const QStringList parts = state.CurrentMapPath.split(u'\\', Qt::SkipEmptyParts);
+    game.CurrentLevel = parts.isEmpty() ? QString() : parts.last().trimmed();
+}
+
+void SetTesterValues(GameRecord& game) {
+    SetNewGameValues(game);
+    game.PlayerName = "Tester";
+    game.PlayerRace = "Human";
+    for (Value GameRecord::*stat : {&GameRecord::PlayerStrength, &GameRecord::PlayerDefence, &GameRecord::PlayerHP,
+                                    &GameRecord::PlayerMaxHP, &GameRecord::PlayerSP, &GameRecord::PlayerMaxSP,
+                                    &GameRecord::PlayerSpellpower, &GameRecord::PlayerSpeed, &GameRecord::PlayerAgility})
+        game.*stat = 1;
+    game.PlayerGold = 0;
+    game.PlayerNextLevelExp = 1000;
+    game.PlayerLevel = 1;
+    game.PlayerExperience = 0;
+}
+
+QString PlayGameStartMap(MainState& state, int mode) {
+    if (mode == 1) {
+        state.ListFiles[0] = QStringLiteral("\\config\\equip lists\\equiplist.ubc");
+        state.ListFiles[1] = QStringLiteral("\\config\\item lists\\itemlist.ubc");
+        state.ListFiles[2] = QStringLiteral("\\config\\skill lists\\skilllist.ubc");
+        state.ListFiles[3] = QStringLiteral("\\config\\enemy lists\\enemylist.ubc");
+        const QString chosen = DialogOpenFile(QStringLiteral("Play Custom Level"), QString(), AppPath() + QStringLiteral("\\maps"),
+                                              QStringLiteral("Umbrith Maps (*.ubm)|*.ubm"),
+                                              QStringLiteral("There was an error loading a map!"));
+        if (chosen.isEmpty())
+            return QString();
+        state.ListFiles[4] = chosen.section(u'^', 0, 0).mid(AppPath().size());
+    }
+    const QString map = state.ListFiles[4];
+    if (map.isEmpty() || !fileExists(AppPath() + map)) {
+        platform().dialogs.message(QStringLiteral("Have you downloaded all the map files required for this realm? This one "
+                                                  "is missing or misplaced: ") + map,
+                                   QStringLiteral("Map Error"), Buttons::Ok, Icon::None);
+        return QString();
+    }
+    return map;
+}
+
+void LeaveGame(GameRecord& game, MainState& state) {
+    state.GameLoaded = false;
+    game.PlayerHP = game.PlayerMaxHP;
+    game.PlayerSP = game.PlayerMaxSP;
+    game.PlayerNextLevelExp = 1000 * game.PlayerLevel.num();
+    game.ItemsCarried = "";
+    game.Journal = "";
+    game.GameRunning = false;
+    state.CurrentMusic.clear();
+    state.CurrentMapPath.clear();
+    game.CurrentLevel = "";
+    game.ScreenPanelOpen = true;
+}
+
+} // namespace umbrith

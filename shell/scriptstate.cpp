@@ -1,0 +1,130 @@
+#include "shell/scriptstate.h"
+
+#include "core/gamerecord.h"
+#include "platform/scripted/scriptedplatform.h"
+#include "shell/mainform.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QJsonArray>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QTextEdit>
+
+namespace umbrith {
+
+namespace {
+
+QList<QWidget*> formsVisibleFirst() {
+    QList<QWidget*> visible, hidden;
+    for (QWidget* form : QApplication::topLevelWidgets())
+        if (!qobject_cast<QMenu*>(form))
+            (form->isVisible() ? visible : hidden).append(form);
+    return visible + hidden;
+}
+
+bool isFrame(const QWidget* widget) {
+    return widget->metaObject() == &QFrame::staticMetaObject || qobject_cast<const QGroupBox*>(widget);
+}
+
+// A control's text, or its rows, or its caption and state.
+QJsonValue controlValue(QWidget* widget) {
+    if (auto* box = qobject_cast<QAbstractButton*>(widget); box && (qobject_cast<QCheckBox*>(box) || qobject_cast<QRadioButton*>(box)))
+        return QJsonObject{{"text", box->text()}, {"checked", box->isChecked()}};
+    if (auto* label = qobject_cast<QLabel*>(widget))
+        return label->text();
+    if (auto* line = qobject_cast<QLineEdit*>(widget))
+        return line->text();
+    if (auto* text = qobject_cast<QTextEdit*>(widget))
+        return text->toPlainText();
+    if (auto* text = qobject_cast<QPlainTextEdit*>(widget))
+        return text->toPlainText();
+    if (auto* list = qobject_cast<QListWidget*>(widget)) {
+        QJsonArray rows;
+        for (int i = 0; i < list->count(); ++i)
+            rows.append(list->item(i)->text());
+        return rows;
+    }
+    if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+        QJsonArray rows;
+        for (int i = 0; i < combo->count(); ++i)
+            rows.append(combo->itemText(i));
+        return rows;
+    }
+    return QJsonValue::Undefined;
+}
+
+} // namespace
+
+QObject* findNamed(const QString& name) {
+    for (QWidget* form : formsVisibleFirst()) {
+        if (form->objectName() == name)
+            return form;
+        if (auto* widget = form->findChild<QWidget*>(name))
+            return widget;
+        if (auto* action = form->findChild<QAction*>(name))
+            return action;
+    }
+    return nullptr;
+}
+
+QJsonObject stateJson(const Main& main, const ScriptedPlatform& scripted) {
+    QJsonObject json;
+    GameRecord& game = main.game();
+    for (const GameField& field : gameFields())
+        json.insert(QLatin1String(field.name), (game.*field.member).text());
+
+    const MainState& state = main.state();
+    json.insert("CurrentMapPath", state.CurrentMapPath);
+    json.insert("CurrentMusic", state.CurrentMusic);
+    json.insert("GameLoaded", state.GameLoaded);
+    json.insert("DisplayModeChanged", state.DisplayModeChanged);
+    const MessageState& m = state.message;
+    json.insert("MessagePos", m.MessagePos);
+    json.insert("MessagePageChars", m.MessagePageChars);
+    json.insert("MessageBuffer", m.MessageBuffer);
+    json.insert("MessageLastChar", m.MessageLastChar);
+    json.insert("MessagePageEnd", m.MessagePageEnd);
+    json.insert("MessageDone", m.MessageDone);
+    json.insert("MessageActive", m.MessageActive);
+    json.insert("EventPaused", m.EventPaused);
+
+    QJsonArray visible;
+    QJsonObject controls;
+    for (QWidget* form : formsVisibleFirst()) {
+        if (!form->isVisible())
+            break;
+        if (!form->objectName().isEmpty())
+            visible.append(form->objectName());
+        for (QMenu* menu : form->findChildren<QMenu*>())
+            if (!menu->objectName().isEmpty() && menu->menuAction()->isVisible())
+                visible.append(menu->objectName());
+        for (QWidget* widget : form->findChildren<QWidget*>()) {
+            if (widget->objectName().isEmpty() || !widget->isVisible())
+                continue;
+            if (isFrame(widget))
+                visible.append(widget->objectName());
+            else if (QJsonValue value = controlValue(widget); !value.isUndefined())
+                controls.insert(widget->objectName(), value);
+        }
+    }
+    json.insert("visible", visible);
+    json.insert("controls", controls);
+
+    QJsonArray boxes;
+    for (const ScriptedPlatform::Box& box : scripted.boxes)
+        boxes.append(QJsonObject{{"kind", box.kind}, {"title", box.title}, {"text", box.text}});
+    json.insert("boxes", boxes);
+    json.insert("sounds", QJsonArray::fromStringList(scripted.sounds));
+    return json;
+}
+
+} // namespace umbrith
