@@ -88,7 +88,8 @@ void Main::ShowPopup(const QString& text, const QString& title) {
 // Keeps the popup in front while it stands; once closed, the panel flags go.
 void Main::popupDisplayTick() {
     if (PopupBox_->isVisible()) {
-        PopupBox_->raise();
+        if (!PopupBox_->isActiveWindow())
+            PopupBox_->raise();
         return;
     }
     game_.ScreenPanelOpen = false;
