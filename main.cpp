@@ -1,3 +1,4 @@
+#include "core/dumpfile.h"
 #include "core/misc.h"
 #include "platform/real/realplatform.h"
 #include "core/gamerecord.h"
@@ -53,6 +54,16 @@ bool hasFlag(int argc, char** argv, const char* flag) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // `--dump FILE` prints a data file's items and ends; no window opens.
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], "--dump") == 0) {
+            if (i + 1 >= argc) {
+                std::fprintf(stderr, "usage: umbrith --dump FILE\n");
+                return 2;
+            }
+            return umbrith::DumpDataFile(QString::fromLocal8Bit(argv[i + 1]));
+        }
+
     if (hasFlag(argc, argv, "--offscreen") || (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     // The folder is checked before Qt starts, so a refusal is the only thing printed.

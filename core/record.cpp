@@ -82,6 +82,28 @@ Value RecordReader::next() {
     }
 }
 
+QStringList NonEmptyParts(const QString& list, QChar delimiter) {
+    QStringList parts = list.split(delimiter, Qt::SkipEmptyParts);
+    return parts;
+}
+
+QString TrimBlanks(const QString& text) {
+    qsizetype start = 0, end = text.size();
+    while (start < end && text[start] == u' ')
+        ++start;
+    while (end > start && text[end - 1] == u' ')
+        --end;
+    return text.mid(start, end - start);
+}
+
+TextPosition SplitPosition(const QString& text, QChar delimiter) {
+    const qsizetype at = text.indexOf(delimiter);
+    if (at < 0)
+        err::raise(err::SubscriptOutOfRange);
+    const qsizetype next = text.indexOf(delimiter, at + 1);
+    return {Val(text.left(at)), Val(text.mid(at + 1, next < 0 ? -1 : next - at - 1))};
+}
+
 QString writeRecord(const QList<Value>& fields) {
     QString out;
     for (qsizetype i = 0; i < fields.size(); ++i) {

@@ -32,6 +32,20 @@ private:
     bool afterComma_ = false;
 };
 
+// The pieces of a delimited list that are not empty, in order: how every loop
+// over a list reads it, so that a leading or trailing delimiter is harmless.
+QStringList NonEmptyParts(const QString& list, QChar delimiter);
+// The text without the blanks at both ends (blanks only, not tabs or line breaks).
+QString TrimBlanks(const QString& text);
+
+// A position held as text, "x;y" or "x|y": both halves by numeric-prefix parse.
+// A text without the delimiter has no second half: "Subscript out of range".
+struct TextPosition {
+    double x = 0;
+    double y = 0;
+};
+TextPosition SplitPosition(const QString& text, QChar delimiter);
+
 // One record as text: fields separated by commas, ended by CR LF.
 QString writeRecord(const QList<Value>& fields);
 // Writes one record as the whole file, truncating what was there.

@@ -9,6 +9,7 @@ namespace err {
 
 static QString standardText(int number) {
     switch (number) {
+    case InvalidProcedureCall: return QStringLiteral("Invalid procedure call or argument");
     case Overflow: return QStringLiteral("Overflow");
     case SubscriptOutOfRange: return QStringLiteral("Subscript out of range");
     case TypeMismatch: return QStringLiteral("Type mismatch");

@@ -19,6 +19,7 @@ private:
 };
 
 namespace err {
+constexpr int InvalidProcedureCall = 5;
 constexpr int Overflow = 6;
 constexpr int SubscriptOutOfRange = 9;
 constexpr int TypeMismatch = 13;
