@@ -9,12 +9,12 @@ namespace umbrith {
 // The separator of a realm record's ten fields: "ƒ", byte 0x83 in the file.
 inline constexpr char16_t RealmSeparator = u'\u0192';
 
-// The list paths in force, each relative to the program folder (Part 1.4):
+// The list paths in force, each relative to the program folder:
 // 0 equipment, 1 items, 2 skills, 3 enemies, 4 start map.
 enum ListFileIndex { EquipListFile = 0, ItemListFile = 1, SkillListFile = 2, EnemyListFile = 3, StartMapFile = 4 };
 extern std::array<QString, 5> ListFiles;
 
-// The default lists of Part 1.1, "\config\equip lists\equiplist.ubc" and so on, in
+// The default lists, "\config\equip lists\equiplist.ubc" and so on, in
 // the order of ListFiles.
 const std::array<QString, 4>& DefaultListFiles();
 // Puts the four default lists into ListFiles 0 to 3 (Play Custom Level); the start

@@ -20,7 +20,7 @@ enum class NameMatch {
 // matches the reference; nothing when no event has that name.
 std::optional<QString> FindCallEvent(const QString& callEvents, const QString& reference, NameMatch match);
 
-// ResolveEventReferences (Part 4.1): the references of `list`, split on
+// ResolveEventReferences: the references of `list`, split on
 // `separator`, each resolved first against the events of `callEvents` (the
 // map's Call Activation cell), then as the path of a .ube file relative to the
 // program folder, trimmed of blanks. The events are joined, each behind "Ü",

@@ -7,7 +7,7 @@
 
 namespace umbrith {
 
-// The delimiters of Part 4.1, single bytes of Windows-1252 in the files.
+// The delimiters of event records, single bytes of Windows-1252 in the files.
 inline constexpr char16_t EventSeparator = u'\u00DC';      // "Ü", ahead of each event of a list
 inline constexpr char16_t EventFieldSeparator = u'\u00A3'; // "£", between the four fields
 inline constexpr char16_t IfSeparator = u'\u00F4';         // "ô", ahead of each If
@@ -77,7 +77,7 @@ QChar ActionFieldSeparator(const QString& kind);
 // The data fields of an action by its kind's separator; an unknown kind gives
 // the data as its one field.
 QStringList ActionFields(const ActionParts& action);
-// The label of an action in the editor's list (Part 4.1's table), such as
+// The label of an action in the editor's list, such as
 // "Message(Welcome to the v...)": texts cut at 20 characters get "...".
 // Fields a short action lacks count as empty; an unknown kind has no label ("").
 QString ActionLabel(const QString& action);

@@ -5,7 +5,7 @@
 
 namespace umbrith {
 
-// The four content lists (Part 6.1), in the order of ListFiles 0 to 3.
+// The four content lists, in the order of ListFiles 0 to 3.
 enum class ListKind { Equipment = 0, Items = 1, Skills = 2, Enemies = 3 };
 
 // The lists in force, each one delimited string as it stands in its file.

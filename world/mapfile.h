@@ -9,7 +9,7 @@
 
 namespace umbrith {
 
-// A map file (.ubm, Part 2.1): one record of 17 items, read and written as they
+// A map file (.ubm): one record of 17 items, read and written as they
 // stand. The delimited items stay text; the helpers below split them for the
 // game (Changemap), the editor (load and saveg) and the tools when they use them.
 struct MapFile {
@@ -21,7 +21,7 @@ struct MapFile {
     QString music;                         // 6: "\sfx\..." under the program folder
     QString screenWarps;                   // 7: top|bottom|left|right map paths
     QString enemies;                       // 8: "/name:min:max..." "^" rate
-    QString events;                        // 9: the event list, Part 4.1
+    QString events;                        // 9: the event list of the map
     QString tileset;                       // 10: "default.ubt", relative to "\tilesets"
     Value width = 18;                      // 11: as typed, number or text; cells are width + 1
     Value height = 17;                     // 12: as typed, number or text; cells are height + 1

@@ -7,7 +7,7 @@
 
 namespace umbrith {
 
-// The tile grid of Part 2.2.
+// The tile grid of a tileset sheet: 50 x 50 tiles of 24 x 24 pixels.
 inline constexpr int TileSize = 24;          // pixels
 inline constexpr int TileTwips = 360;        // 15 twips to the pixel
 inline constexpr int SheetTiles = 50;        // tiles across and down a sheet
