@@ -37,10 +37,10 @@ MapCanvas caveMap(const TilePass& pass, const StarterLists& lists)
     // The hall: the lava pool and stalagmites.
     m.patch(21, 18, 7, 5, kCaveLava);
     for (auto [x, y] : {std::pair{15, 16}, {33, 16}, {16, 24}, {32, 24}, {18, 20}}) m.put(x, y, kStalagmite);
-    // The spiders' chamber: webs, bones, a pit, crystals.
+    // The spiders' chamber: webs, rubble, a pit, crystals.
     m.patch(6, 12, 5, 4, kCaveChasm);
     for (auto [x, y] : {std::pair{3, 7}, {4, 8}, {11, 17}, {12, 18}, {5, 18}}) m.put(x, y, kWeb);
-    for (auto [x, y] : {std::pair{9, 8}, {4, 16}}) m.put(x, y, kBones);
+    for (auto [x, y] : {std::pair{9, 8}, {4, 16}}) m.put(x, y, kRubble);
     for (auto [x, y] : {std::pair{12, 7}, {3, 11}}) m.put(x, y, kCrystal);
     // The mine: ore, rubble, mushrooms.
     for (auto [x, y] : {std::pair{45, 10}, {45, 16}, {37, 25}, {45, 27}}) m.put(x, y, kOreVein);
@@ -51,12 +51,12 @@ MapCanvas caveMap(const TilePass& pass, const StarterLists& lists)
     m.put(kCaveLadderX, kCaveLadderY, kCaveLadderUp);
     m.put(20, 34, kCaveRock);
     m.put(28, 40, kCrystal);
-    // The lair: the hoard at the back, bones before it.
+    // The lair: the hoard at the back, rubble before it.
     m.patch(30, 3, 5, 4, kCaveLava);
     m.put(26, 3, kDungeonChest);
     m.put(24, 3, kCrystal);
     m.put(28, 3, kCrystal);
-    for (auto [x, y] : {std::pair{22, 6}, {25, 8}, {29, 7}}) m.put(x, y, kBones);
+    for (auto [x, y] : {std::pair{22, 6}, {25, 8}, {29, 7}}) m.put(x, y, kRubble);
 
     m.enterMessage("Ember Cave", "Hot air rises from below and the rock glows faintly red.&"
                                  "The ladder behind you leads back up to the Ashwood.");

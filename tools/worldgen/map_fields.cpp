@@ -18,7 +18,7 @@ MapCanvas fieldsMap(const TilePass& pass, const StarterLists& lists)
     m.trees(0, 4, 4, 61);
     m.trees(4, 60, 69, 5);
     m.trees(68, 4, 5, kEastRoadY - 4);
-    m.trees(68, kEastRoadY + 3, 5, 57 - kEastRoadY);
+    m.trees(68, kEastRoadY + 4, 5, 56 - kEastRoadY);
 
     // The river from north to south, with a bridge for the east road.
     m.bandDown(kRiverX, 0, 5, 65, kGrassPond);

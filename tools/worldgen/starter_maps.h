@@ -27,7 +27,7 @@ MapCanvas newLevelTemplate(const TilePass& pass);
 // their north edge, and where the fields' road meets the Ashwood: the screen
 // warps keep the coordinate along the edge, so both sides leave these open.
 inline constexpr int kTownGateX = 19;     // columns kTownGateX .. +2
-inline constexpr int kEastRoadY = 30;     // rows kEastRoadY .. +2
+inline constexpr int kEastRoadY = 30;     // the road on rows kEastRoadY .. +2, grass on +3
 // The cave's mouth in the Ashwood, and the ladder back up inside the cave.
 inline constexpr int kCaveMouthX = 30, kCaveMouthY = 6;
 inline constexpr int kCaveLadderX = 24, kCaveLadderY = 40;
