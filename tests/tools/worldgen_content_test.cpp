@@ -39,7 +39,7 @@ protected:
     static void TearDownTestSuite() { delete folder_; }
 
     static QString root() { return QString(folder_->path()).replace(u'/', u'\\'); }
-    static QString list(const QString& path) { return ReadListFile(root() + path); }
+    static QString list(ListKind kind) { return ReadListFile(root() + DefaultListFiles()[int(kind)]); }
     static bool exists(const QString& stored) { return fileExists(root() + stored); }
 
     struct Cells {
@@ -86,11 +86,11 @@ TEST_F(StarterContent, TheRealmIsInTheCatalogueAndNamesTheDefaultListsAndAnExist
 TEST_F(StarterContent, EachListHoldsAStarterSetOfEveryKind)
 {
     std::set<QString> equipKinds, skillKinds, enemyClasses;
-    const QStringList equipment = ListRecords(ListKind::Equipment, list(kEquipListPath));
+    const QStringList equipment = ListRecords(ListKind::Equipment, list(ListKind::Equipment));
     for (const QString& r : equipment) equipKinds.insert(r.split(u'/')[EquipStats].split(u':')[EquipKind]);
-    const QStringList skills = ListRecords(ListKind::Skills, list(kSkillListPath));
+    const QStringList skills = ListRecords(ListKind::Skills, list(ListKind::Skills));
     for (const QString& r : skills) skillKinds.insert(r.split(u':')[SkillKind]);
-    const QStringList enemies = ListRecords(ListKind::Enemies, list(kEnemyListPath));
+    const QStringList enemies = ListRecords(ListKind::Enemies, list(ListKind::Enemies));
     for (const QString& r : enemies) {
         const QStringList stats = r.split(u',')[EnemyStats].split(u':');
         EXPECT_EQ(stats.size(), EnemyFieldCount) << r.toStdString();
@@ -98,7 +98,7 @@ TEST_F(StarterContent, EachListHoldsAStarterSetOfEveryKind)
     }
     EXPECT_GE(equipment.size(), 15);
     EXPECT_EQ(equipKinds, (std::set<QString>{"Fists", "Sword", "Bow", "Armour", "Shield", "Helmet", "Boots", "Gloves"}));
-    EXPECT_EQ(ListRecords(ListKind::Items, list(kItemListPath)).size(), 10);
+    EXPECT_EQ(ListRecords(ListKind::Items, list(ListKind::Items)).size(), 10);
     EXPECT_EQ(skills.size(), 10);
     EXPECT_EQ(skillKinds, (std::set<QString>{"Dam", "HP", "MP"}));
     EXPECT_EQ(enemies.size(), 12);
@@ -108,19 +108,18 @@ TEST_F(StarterContent, EachListHoldsAStarterSetOfEveryKind)
 TEST_F(StarterContent, KeysAreUniqueSoEveryLookupFindsTheRecordMeant)
 {
     for (ListKind kind : {ListKind::Equipment, ListKind::Items, ListKind::Skills, ListKind::Enemies}) {
-        const QString path = DefaultListFiles()[int(kind)];
         std::set<QString> keys;
-        for (const QString& r : ListRecords(kind, list(path))) EXPECT_TRUE(keys.insert(RecordKey(kind, r)).second) << r.toStdString();
+        for (const QString& r : ListRecords(kind, list(kind))) EXPECT_TRUE(keys.insert(RecordKey(kind, r)).second) << r.toStdString();
     }
 }
 
 TEST_F(StarterContent, EveryPictureAListNamesExists)
 {
-    for (const QString& r : ListRecords(ListKind::Equipment, list(kEquipListPath))) {
+    for (const QString& r : ListRecords(ListKind::Equipment, list(ListKind::Equipment))) {
         const QString picture = r.split(u'/')[EquipPicture];
         EXPECT_TRUE(!picture.isEmpty() && exists(picture)) << r.toStdString();
     }
-    for (const QString& r : ListRecords(ListKind::Enemies, list(kEnemyListPath))) {
+    for (const QString& r : ListRecords(ListKind::Enemies, list(ListKind::Enemies))) {
         const QString picture = EnemyPicturePath(r.split(u',')[EnemyStats].split(u':')[EnemyPicture]);
         EXPECT_TRUE(exists(picture)) << picture.toStdString();
     }
@@ -128,8 +127,8 @@ TEST_F(StarterContent, EveryPictureAListNamesExists)
 
 TEST_F(StarterContent, EnemySkillsAreCopiesOfListedSkillsAndRewardsNameListedThings)
 {
-    const QString skills = list(kSkillListPath), equipment = list(kEquipListPath), items = list(kItemListPath);
-    for (const QString& r : ListRecords(ListKind::Enemies, list(kEnemyListPath))) {
+    const QString skills = list(ListKind::Skills), equipment = list(ListKind::Equipment), items = list(ListKind::Items);
+    for (const QString& r : ListRecords(ListKind::Enemies, list(ListKind::Enemies))) {
         const QStringList parts = r.split(u',');
         for (const QString& skill : NonEmptyParts(parts[EnemySkills], u'/'))
             EXPECT_EQ(FindSkill(skills, SkillKey(skill)), skill);
@@ -145,7 +144,7 @@ TEST_F(StarterContent, EnemySkillsAreCopiesOfListedSkillsAndRewardsNameListedThi
 
 TEST_F(StarterContent, EveryItemRunsAnEventFileWithActionsTheEngineKnows)
 {
-    for (const QString& r : ListRecords(ListKind::Items, list(kItemListPath))) {
+    for (const QString& r : ListRecords(ListKind::Items, list(ListKind::Items))) {
         const QString path = r.split(ItemFieldSeparator)[ItemEvents];
         const EventParts event = SplitEvent(LoadEventFile(root() + path));
         const QStringList actions = EventActions(event.actions);
@@ -219,7 +218,7 @@ TEST_F(StarterContent, EveryPassableCellOnAScreenWarpsEdgeLandsOnAPassableCell)
 
 TEST_F(StarterContent, EnemiesComeFromTheListOutsideTownOnly)
 {
-    const QString enemies = list(kEnemyListPath);
+    const QString enemies = list(ListKind::Enemies);
     for (const QString& path : realmMaps()) {
         const MapEnemies e = SplitMapEnemies(readMap(path).map.enemies);
         if (path.contains("Emberton.ubm")) {

@@ -29,8 +29,8 @@ QString starterRealm()
     realm.description = QStringLiteral(
         "A quiet valley of farms and woods, until the wolves came down from the Ashwood and smoke began "
         "to rise from the old cave. Start in the village of Emberton and find out what wakes beneath the trees.");
-    for (const QString& path : {kEquipListPath, kItemListPath, kSkillListPath, kEnemyListPath, kTownMap})
-        realm.listFiles += u':' + path;
+    for (const QString& path : DefaultListFiles()) realm.listFiles += u':' + path;
+    realm.listFiles += u':' + kTownMap;
     for (const char* race : {"Human", "Elf", "Dwarf", "Halfling"}) realm.races += u':' + QString(race);
     realm.statsEditable = QStringLiteral("1");
     realm.pointsAtStart = QStringLiteral("10");
@@ -78,10 +78,10 @@ void writeContent(const QString& programFolder)
 
     const QString skills = starterSkills();
     const StarterLists lists{starterEquipment(), starterItems()};
-    WriteListFile(root + kEquipListPath, lists.equipment);
-    WriteListFile(root + kItemListPath, lists.items);
-    WriteListFile(root + kSkillListPath, skills);
-    WriteListFile(root + kEnemyListPath, starterEnemies(skills));
+    WriteListFile(root + DefaultListFiles()[EquipListFile], lists.equipment);
+    WriteListFile(root + DefaultListFiles()[ItemListFile], lists.items);
+    WriteListFile(root + DefaultListFiles()[SkillListFile], skills);
+    WriteListFile(root + DefaultListFiles()[EnemyListFile], starterEnemies(skills));
     for (const EventFile& e : itemEvents()) SaveEventFile(root + e.path, e.event);
 
     const TilePass pass = SplitTilesetRecord(ReadTilesetFile(root + QStringLiteral("\\tilesets\\default.ubt"))).pass;

@@ -42,13 +42,7 @@ QString record(const Enemy& e, const QString& skillList)
     QString skills;
     for (const char* key : e.skills) skills += u'/' + FindSkill(skillList, key);
     QString rewards;
-    for (const Reward& r : e.rewards) {
-        QStringList fields(3);
-        fields[RewardKey] = r.key;
-        fields[RewardChance] = QString::number(r.chance);
-        fields[RewardArticle] = QString::number(r.article);
-        rewards += u'|' + fields.join(u':');
-    }
+    for (const Reward& r : e.rewards) rewards += barRecord(r.key, r.chance, r.article);
     QStringList parts(3);
     parts[EnemyStats] = stats.join(u':');
     parts[EnemySkills] = skills;

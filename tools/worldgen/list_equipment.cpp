@@ -32,13 +32,7 @@ QString record(const Piece& p)
     stats[EquipPower] = QString::number(p.power);
     stats[EquipDurability] = QString::number(p.durability);
     QString bonuses;
-    for (const Bonus& b : p.bonuses) {
-        QStringList fields(3);
-        fields[BonusName] = b.name;
-        fields[BonusOperation] = QString::number(b.operation);
-        fields[BonusAmount] = QString::number(b.amount);
-        bonuses += u'|' + fields.join(u':');
-    }
+    for (const Bonus& b : p.bonuses) bonuses += barRecord(b.name, b.operation, b.amount);
     QStringList parts(3);
     parts[EquipStats] = stats.join(u':');
     parts[EquipBonuses] = bonuses;

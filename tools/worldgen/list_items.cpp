@@ -71,6 +71,16 @@ QString showMessage(const QString& source, const QString& text)
     return ActionEntry(source + sep + text, QStringLiteral("2"));
 }
 
+QString barRecord(const QString& first, int second, int third)
+{
+    static_assert(BonusName == RewardKey && BonusOperation == RewardChance && BonusAmount == RewardArticle);
+    QStringList fields(3);
+    fields[BonusName] = first;
+    fields[BonusOperation] = QString::number(second);
+    fields[BonusAmount] = QString::number(third);
+    return u'|' + fields.join(u':');
+}
+
 QString starterItems()
 {
     QString list;

@@ -8,12 +8,6 @@
 
 namespace worldgen {
 
-// The default list paths, as the realm names them.
-inline const QString kEquipListPath = QStringLiteral("\\config\\equip lists\\equiplist.ubc");
-inline const QString kItemListPath = QStringLiteral("\\config\\item lists\\itemlist.ubc");
-inline const QString kSkillListPath = QStringLiteral("\\config\\skill lists\\skilllist.ubc");
-inline const QString kEnemyListPath = QStringLiteral("\\config\\enemy lists\\enemylist.ubc");
-
 QString starterEquipment();
 QString starterSkills();
 QString starterEnemies(const QString& skills);
@@ -31,6 +25,10 @@ QString callEvent(const QString& name, const QString& actions);
 // Actions of such events.
 QString changeVariable(const QString& variable, const QString& op, const QString& value);
 QString showMessage(const QString& source, const QString& text);
+
+// A "|"-led sub-record of three ":" fields, the form of a piece's bonus
+// (name, operation, amount) and of an enemy's reward (key, chance, article).
+QString barRecord(const QString& first, int second, int third);
 
 // A tile's ground list: entries led by "ƒ", each entry "§" its tag.
 inline constexpr char16_t kGroundEntrySeparator = u'\u0192';
