@@ -1,5 +1,9 @@
-// umbrith-worldgen PROGRAM_FOLDER: writes the default art, music and sounds into the folder.
+// umbrith-worldgen PROGRAM_FOLDER: writes the default art, music and sounds
+// into the folder, then the starter content made from them.
+#include "content.h"
 #include "generate.h"
+
+#include <QString>
 
 #include <exception>
 #include <iostream>
@@ -12,6 +16,7 @@ int main(int argc, char** argv)
     }
     try {
         worldgen::writeAll(worldgen::generateAll(), argv[1]);
+        worldgen::writeContent(QString::fromLocal8Bit(argv[1]));
     } catch (const std::exception& e) {
         std::cerr << "umbrith-worldgen: " << e.what() << '\n';
         return 1;

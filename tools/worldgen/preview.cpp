@@ -1,5 +1,10 @@
 // umbrith-worldgen-preview PROGRAM_FOLDER OUT_FOLDER: enlarged PNGs of the
-// generated art, with the paper doll stacked the way the game stacks it, to look at.
+// generated art, with the paper doll stacked the way the game stacks it, and
+// each starter map whole, to look at.
+#include "content.h"
+
+#include "world/mapfile.h"
+
 #include <QDir>
 #include <QImage>
 #include <QPainter>
@@ -135,6 +140,54 @@ void saveMarks(const QString& in, const QString& out)
     all.scaled(all.width() * 3, all.height() * 3).save(out + "/marks.png");
 }
 
+// Draws a 24 x 24 piece of a sheet whose mask stands 24 pixels to its right
+// (black in the mask marks the picture), as the game blits it.
+void drawMasked(QImage& onto, const QImage& sheet, int sx, int sy, int dx, int dy, int h)
+{
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < 24; ++x) {
+            if (dx + x < 0 || dy + y < 0 || dx + x >= onto.width() || dy + y >= onto.height()) continue;
+            const QRgb mask = sheet.pixel(sx + 24 + x, sy + y);
+            onto.setPixel(dx + x, dy + y, ((onto.pixel(dx + x, dy + y) & mask) ^ sheet.pixel(sx + x, sy + y)) | 0xFF000000);
+        }
+}
+
+// Each map's playable cells from the tileset, the editor's marks on
+// messages, warps and piles, and its people in frame 0 of their sheets.
+void saveMaps(const QString& in, const QString& out)
+{
+    const QImage tiles = QImage(in + "/tilesets/default.bmp").convertToFormat(QImage::Format_RGB32);
+    const QImage marks = QImage(in + "/images/specialpics.bmp").convertToFormat(QImage::Format_RGB32);
+    for (const QString& path : worldgen::contentMaps()) {
+        const umbrith::MapFile map = umbrith::ReadMapFile(in + path);
+        const umbrith::MapGrid grid = umbrith::SplitMapGrid(map.tiles, map.passabilities, map.width, map.height);
+        QImage img((grid.columns - 1) * 24, (grid.rows - 1) * 24, QImage::Format_RGB32);
+        QPainter painter(&img);
+        for (int y = 0; y + 1 < grid.rows; ++y)
+            for (int x = 0; x + 1 < grid.columns; ++x) {
+                const umbrith::TextPosition at = umbrith::SplitPosition(grid.tile(x, y), u'|');
+                painter.drawImage(x * 24, y * 24, tiles, int(at.x), int(at.y), 24, 24);
+            }
+        painter.end();
+        for (const umbrith::MapSpecial& special : umbrith::SplitSpecials(map.specials)) {
+            const umbrith::TextPosition at = umbrith::SplitPosition(special.fields[0], u';');
+            if (at.x >= 0) drawMasked(img, marks, special.kind == "1" ? 0 : 48, 0, int(at.x) * 24, int(at.y) * 24, 24);
+        }
+        for (const QString& pile : umbrith::NonEmptyParts(map.groundItems, umbrith::GroundPileSeparator)) {
+            const QString location = pile.split(umbrith::GroundPileFieldSeparator)[umbrith::GroundPileLocation];
+            const umbrith::TextPosition at = umbrith::SplitPosition(location, u';');
+            drawMasked(img, marks, 96, 0, int(at.x) * 24, int(at.y) * 24, 24);
+        }
+        for (const QString& npc : umbrith::NonEmptyParts(map.npcs, umbrith::NpcSeparator)) {
+            const QStringList f = npc.split(u':');
+            const QImage sheet = QImage(in + QString(f[umbrith::NpcImagePath]).replace(u'\\', u'/')).convertToFormat(QImage::Format_RGB32);
+            const umbrith::TextPosition at = umbrith::SplitPosition(f[umbrith::NpcLocation], u';');
+            drawMasked(img, sheet, 0, 48 * f[umbrith::NpcSprite].toInt(), int(at.x) * 24, int(at.y - 1) * 24, 48);
+        }
+        img.save(out + "/map_" + QString(path).remove("\\maps\\").remove(".ubm").replace(u' ', u'_') + ".png");
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -149,5 +202,6 @@ int main(int argc, char** argv)
     saveNpcs(in, out);
     saveEnemies(in, out);
     saveMarks(in, out);
+    saveMaps(in, out);
     return 0;
 }
