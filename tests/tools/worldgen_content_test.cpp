@@ -3,6 +3,7 @@
 // every path, warp and key they name leading somewhere real.
 #include "content.h"
 #include "starter_lists.h"
+#include "tile_names.h"
 #include "worldgen_support.h"
 
 #include "core/misc.h"
@@ -12,6 +13,7 @@
 #include "inventory/listfiles.h"
 #include "platform/files.h"
 #include "world/mapfile.h"
+#include "world/tileset.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -257,11 +259,27 @@ TEST_F(StarterContent, PeopleHaveTheirPicturesAndTalkEventsAndPilesAStoryVariabl
     EXPECT_GT(followers, 0);
 }
 
+TEST_F(StarterContent, TheTilesetBlocksWallsWaterAndTreesAndLetsFloorsPass)
+{
+    const TilesetRecordParts parts = SplitTilesetRecord(ReadTilesetFile(root() + "\\tilesets\\default.ubt"));
+    EXPECT_EQ(parts.picture, "default.bmp");
+    ASSERT_EQ(parts.pass.size(), 2500);
+    for (const QString& value : parts.pass) ASSERT_TRUE(value == "1" || value == "2") << value.toStdString();
+    auto passAt = [&](Tile t) { return parts.pass[t.row * 50 + t.col]; };
+    EXPECT_EQ(passAt(kGrass[0]), "1");
+    EXPECT_EQ(passAt(kCobble[1]), "1");
+    EXPECT_EQ(passAt(kWater[0]), "2");
+    EXPECT_EQ(passAt(kOak.at(1, 1)), "2");
+    EXPECT_EQ(passAt(kWallStone.middle()), "2");
+    EXPECT_EQ(passAt(kWallStone.doorOpen()), "1");
+    EXPECT_EQ(passAt(kGrassPond.c()), "2");
+    EXPECT_EQ(passAt(kGrassPond.nw()), "1"); // mostly grass
+    EXPECT_EQ(passAt(kBridgeH[1]), "1");
+}
+
 TEST_F(StarterContent, WritingTwiceGivesTheSameBytes)
 {
     QTemporaryDir again;
-    QDir().mkpath(again.path() + "/tilesets");
-    QFile::copy(folder_->path() + "/tilesets/default.ubt", again.path() + "/tilesets/default.ubt");
     writeContent(again.path());
     int compared = 0;
     for (QDirIterator it(again.path(), QDir::Files, QDirIterator::Subdirectories); it.hasNext();) {

@@ -1,5 +1,5 @@
 // The generator's output as a whole: every name the game opens by itself is
-// there, the output is the same on every run, and the tileset record reads back.
+// there and the output is the same on every run.
 #include "tilesheet.h"
 #include "worldgen_support.h"
 
@@ -25,7 +25,7 @@ std::vector<std::string> split(const std::string& text, char sep)
 TEST(WorldgenFiles, EveryFileTheGameOpensByNameIsGenerated)
 {
     const char* fixedNames[] = {
-        "tilesets/default.bmp", "tilesets/default.ubt",
+        "tilesets/default.bmp",
         "images/specialpics.bmp", "images/grounditems.bmp", "images/night1.bmp",
         "images/bodies/defaultbody.bmp", "images/heads/defaulthead.bmp", "images/boots/defaultboots.bmp",
         "images/gloves/defaultgloves.bmp", "images/weapons/defaultweapon.bmp", "images/shields/defaultshield.bmp",
@@ -76,32 +76,6 @@ TEST(WorldgenFiles, WritesTheTreeUnderTheProgramFolder)
         EXPECT_TRUE(onDisk == b) << path;
     }
     std::filesystem::remove_all(dir);
-}
-
-TEST(WorldgenFiles, TilesetRecordReadsBackAsTheGameReadsIt)
-{
-    const auto& b = bytes("tilesets/default.ubt");
-    const std::string file(b.begin(), b.end());
-    ASSERT_GE(file.size(), 4u);
-    ASSERT_EQ(file.front(), '"');
-    ASSERT_EQ(file.substr(file.size() - 3), "\"\r\n");
-    const auto parts = split(file.substr(1, file.size() - 4), '/');
-    ASSERT_EQ(parts.size(), 2u);
-    EXPECT_EQ(parts[1], "default.bmp");
-    const auto values = split(parts[0], ':');
-    ASSERT_EQ(values.size(), 2501u);
-    EXPECT_EQ(values[0], "");
-    for (std::size_t i = 1; i < values.size(); ++i) ASSERT_TRUE(values[i] == "1" || values[i] == "2") << i;
-    auto passAt = [&](Tile t) { return values[t.row * 50 + t.col + 1]; };
-    EXPECT_EQ(passAt(kGrass[0]), "1");
-    EXPECT_EQ(passAt(kCobble[1]), "1");
-    EXPECT_EQ(passAt(kWater[0]), "2");
-    EXPECT_EQ(passAt(kOak.at(1, 1)), "2");
-    EXPECT_EQ(passAt(kWallStone.middle()), "2");
-    EXPECT_EQ(passAt(kWallStone.doorOpen()), "1");
-    EXPECT_EQ(passAt(kGrassPond.c()), "2");
-    EXPECT_EQ(passAt(kGrassPond.nw()), "1"); // mostly grass
-    EXPECT_EQ(passAt(kBridgeH[1]), "1");
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "content.h"
+#include "tilesheet.h"
 
 #include "starter_maps.h"
 
@@ -72,7 +73,7 @@ std::vector<QString> contentMaps() { return {kNewLevelMap, kTownMap, kFieldsMap,
 void writeContent(const QString& programFolder)
 {
     const QString root = QString(programFolder).replace(u'/', u'\\');
-    for (const char* folder : {"maps", "events", "realms", "config/equip lists", "config/item lists",
+    for (const char* folder : {"tilesets", "maps", "events", "realms", "config/equip lists", "config/item lists",
                                "config/skill lists", "config/enemy lists"})
         QDir().mkpath(QString(programFolder) + u'/' + folder);
 
@@ -84,7 +85,14 @@ void writeContent(const QString& programFolder)
     WriteListFile(root + DefaultListFiles()[EnemyListFile], starterEnemies(skills));
     for (const EventFile& e : itemEvents()) SaveEventFile(root + e.path, e.event);
 
-    const TilePass pass = SplitTilesetRecord(ReadTilesetFile(root + QStringLiteral("\\tilesets\\default.ubt"))).pass;
+    // The tileset's passabilities go through the game's own writer, and the
+    // maps are laid out from what its reader makes of them.
+    QStringList tilePass;
+    for (int value : buildDefaultTileset().passability())
+        tilePass << QString::number(value);
+    const QString tileset = root + QStringLiteral("\\tilesets\\default.ubt");
+    WriteTilesetFile(tileset, TilesetRecord(tilePass, QStringLiteral("default.bmp")));
+    const TilePass pass = SplitTilesetRecord(ReadTilesetFile(tileset)).pass;
     for (const StarterMap& map : starterMaps(pass, lists)) {
         WriteMapFile(root + map.path, map.canvas.file());
         for (const EventFile& e : map.canvas.talks()) SaveEventFile(root + e.path, e.event);

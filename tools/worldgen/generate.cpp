@@ -13,11 +13,6 @@
 namespace worldgen {
 namespace {
 
-std::vector<std::uint8_t> bytesOf(const std::string& text) { return {text.begin(), text.end()}; }
-
-// One quoted text field as the game's record writer writes it.
-std::vector<std::uint8_t> textRecord(const std::string& text) { return bytesOf("\"" + text + "\"\r\n"); }
-
 } // namespace
 
 FileSet generateAll()
@@ -25,7 +20,6 @@ FileSet generateAll()
     FileSet files;
     const TileSheet tiles = buildDefaultTileset();
     files["tilesets/default.bmp"] = encodeBmp(tiles.picture());
-    files["tilesets/default.ubt"] = textRecord(tilesetRecord(tiles, "default.bmp"));
     files["images/specialpics.bmp"] = encodeBmp(specialMarks());
     files["images/grounditems.bmp"] = encodeBmp(groundItemIcon());
     files["images/night1.bmp"] = encodeBmp(nightOverlay());

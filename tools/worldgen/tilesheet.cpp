@@ -37,11 +37,4 @@ TileSheet buildDefaultTileset()
     return sheet;
 }
 
-std::string tilesetRecord(const TileSheet& sheet, const std::string& pictureName)
-{
-    std::string text;
-    for (int value : sheet.passability()) text += ":" + std::to_string(value);
-    return text + "/" + pictureName;
-}
-
 } // namespace worldgen

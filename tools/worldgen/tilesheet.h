@@ -42,7 +42,5 @@ void paintInterior(TileSheet& sheet);
 void paintDungeon(TileSheet& sheet);
 
 TileSheet buildDefaultTileset();
-// The ".ubt" record: ":"-led passabilities row by row, "/", the picture's name.
-std::string tilesetRecord(const TileSheet& sheet, const std::string& pictureName);
 
 } // namespace worldgen
