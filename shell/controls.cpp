@@ -1,7 +1,9 @@
 #include "shell/controls.h"
 
 #include <QFrame>
+#include <QLineEdit>
 #include <QMouseEvent>
+#include <QRegularExpressionValidator>
 
 namespace umbrith {
 
@@ -25,10 +27,20 @@ QFrame* panel(const char* name, const QRect& geometry, QWidget* parent) {
     return frame;
 }
 
+QLabel* caption(const QString& text, const QRect& place, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setGeometry(place);
+    return label;
+}
+
 QLabel* heading(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setStyleSheet(QStringLiteral("color: %1; font-size: 18px; font-weight: bold;").arg(QLatin1String(look::gold)));
     return label;
+}
+
+void acceptStatNumbers(QLineEdit* box) {
+    box->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("-?\\d{0,4}")), box));
 }
 
 QString arrayName(const char* name, int index) { return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index); }
