@@ -9,6 +9,28 @@ namespace umbrith {
 
 namespace {
 
+// The six slots in the order of their labels: weapon, armour, shield, helmet, boots, gloves.
+struct Slot {
+    Value GameRecord::*name;
+    Value GameRecord::*power;
+    Value GameRecord::*durability;
+    Value GameRecord::*maxDurability;
+};
+const Slot gearSlots[6] = {
+    {&GameRecord::PlayerWeaponName, &GameRecord::PlayerWeaponPower, &GameRecord::PlayerWeaponDurability,
+     &GameRecord::PlayerWeaponMaxDurability},
+    {&GameRecord::PlayerArmourName, &GameRecord::PlayerArmourPower, &GameRecord::PlayerArmourDurability,
+     &GameRecord::PlayerArmourMaxDurability},
+    {&GameRecord::PlayerShieldName, &GameRecord::PlayerShieldPower, &GameRecord::PlayerShieldDurability,
+     &GameRecord::PlayerShieldMaxDurability},
+    {&GameRecord::PlayerHelmetName, &GameRecord::PlayerHelmetPower, &GameRecord::PlayerHelmetDurability,
+     &GameRecord::PlayerHelmetMaxDurability},
+    {&GameRecord::PlayerBootsName, &GameRecord::PlayerBootsPower, &GameRecord::PlayerBootsDurability,
+     &GameRecord::PlayerBootsMaxDurability},
+    {&GameRecord::PlayerGlovesName, &GameRecord::PlayerGlovesPower, &GameRecord::PlayerGlovesDurability,
+     &GameRecord::PlayerGlovesMaxDurability},
+};
+
 QString gearText(const Value& name, const Value& power, const char* what) {
     if (name.text() == u"None")
         return name.text();
@@ -48,31 +70,25 @@ QStringList PlayerLabelTexts(const GameRecord& g) {
     t[LabelRace] = g.PlayerRace.text();
     t[LabelStrength] = g.PlayerStrength.text();
     t[LabelDefence] = g.PlayerDefence.text();
-    t[LabelWeapon] = gearText(g.PlayerWeaponName, g.PlayerWeaponPower, " Damage: ");
-    t[LabelArmour] = gearText(g.PlayerArmourName, g.PlayerArmourPower, " Protection: ");
-    t[LabelShield] = gearText(g.PlayerShieldName, g.PlayerShieldPower, " Protection: ");
-    t[LabelHelmet] = gearText(g.PlayerHelmetName, g.PlayerHelmetPower, " Protection: ");
-    t[LabelBoots] = gearText(g.PlayerBootsName, g.PlayerBootsPower, " Protection: ");
-    t[LabelGloves] = gearText(g.PlayerGlovesName, g.PlayerGlovesPower, " Protection: ");
     t[LabelHP] = pair(g.PlayerHP, g.PlayerMaxHP, " / ");
     t[LabelSP] = pair(g.PlayerSP, g.PlayerMaxSP, " / ");
     t[LabelLevel] = g.PlayerLevel.text();
     t[LabelExperience] = g.PlayerExperience.text();
     t[LabelNextLevel] = g.PlayerNextLevelExp.text();
-    t[LabelWeaponDurability] = pair(g.PlayerWeaponDurability, g.PlayerWeaponMaxDurability, "/");
-    t[LabelArmourDurability] = pair(g.PlayerArmourDurability, g.PlayerArmourMaxDurability, "/");
-    t[LabelShieldDurability] = pair(g.PlayerShieldDurability, g.PlayerShieldMaxDurability, "/");
-    t[LabelHelmetDurability] = pair(g.PlayerHelmetDurability, g.PlayerHelmetMaxDurability, "/");
-    t[LabelBootsDurability] = pair(g.PlayerBootsDurability, g.PlayerBootsMaxDurability, "/");
-    t[LabelGlovesDurability] = pair(g.PlayerGlovesDurability, g.PlayerGlovesMaxDurability, "/");
+    for (int i = 0; i < 6; ++i) {
+        const Slot& slot = gearSlots[i];
+        t[LabelWeapon + i] = gearText(g.*slot.name, g.*slot.power, i == 0 ? " Damage: " : " Protection: ");
+        t[LabelWeaponDurability + i] = pair(g.*slot.durability, g.*slot.maxDurability, "/");
+    }
     t[LabelSkillPower] = g.PlayerSpellpower.text();
     t[LabelSpeed] = g.PlayerSpeed.text();
     t[LabelAgility] = g.PlayerAgility.text();
     t[LabelGold] = g.PlayerGold.text();
     const auto [low, high] = attackRange(g);
     t[LabelAttackRange] = Format(low, QStringLiteral("0")) + QStringLiteral(" To ") + Format(high, QStringLiteral("0"));
-    const double protection = g.PlayerDefence.num() + g.PlayerArmourPower.num() + g.PlayerShieldPower.num() +
-                              g.PlayerHelmetPower.num() + g.PlayerBootsPower.num() + g.PlayerGlovesPower.num();
+    double protection = g.PlayerDefence.num();
+    for (int i = 1; i < 6; ++i)
+        protection += (g.*gearSlots[i].power).num();
     t[LabelTotalDefence] = Format(protection, QStringLiteral("0"));
     t[LabelCombatMastery] = CombatMastery(g.PlayerLevel) + QStringLiteral(" %");
     t[LabelDaysPassed] = g.DaysPassed.text();

@@ -2,7 +2,7 @@
 
 #include "platform/error.h"
 #include "platform/platform.h"
-#include "shell/controls.h"
+#include "shell/statsheet.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -18,81 +18,40 @@ const char* const captions[StatCount] = {"Strength:", "Defence:", "Max Hit Point
 } // namespace
 
 UpdateCharacter::UpdateCharacter(GameRecord& game, const MainState& state, QWidget* parent)
-    : QDialog(parent), game_(game), state_(state) {
+    : QDialog(parent), game_(game), state_(state), race_(new QLineEdit(this)),
+      sheet_(buildStatSheet(this, QStringLiteral("You have grown stronger"), race_, captions, "prevelements",
+                            QStringLiteral("Now           Add"), QStringLiteral("Upgrade!"))) {
     setObjectName(QStringLiteral("UpdateCharacter"));
     setWindowTitle(QStringLiteral("Upgrade Character"));
-    setStyleSheet(look::formStyle() + look::frameStyle());
-    setFixedSize(360, 410);
-
-    heading(QStringLiteral("You have grown stronger"), this)->setGeometry(20, 12, 320, 28);
-    caption(QStringLiteral("Name:"), QRect(20, 52, 90, 24), this);
-    txtName_ = new QLineEdit(this);
-    txtName_->setObjectName(QStringLiteral("txtName"));
-    txtName_->setGeometry(120, 52, 220, 24);
-    txtName_->setReadOnly(true);
-    caption(QStringLiteral("Race:"), QRect(20, 84, 90, 24), this);
-    race_ = new QLineEdit(this);
-    race_->setObjectName(QStringLiteral("race"));
-    race_->setGeometry(120, 84, 220, 24);
+    setFixedSize(360, 424);
+    sheet_.txtName->setReadOnly(true);
     race_->setReadOnly(true);
-
-    QLabel* header = caption(QStringLiteral("Now          Add"), QRect(170, 120, 170, 20), this);
-    header->setStyleSheet(QStringLiteral("color: %1;").arg(QLatin1String(look::gold)));
-    for (int i = 0; i < StatCount; ++i) {
-        const int y = 144 + 30 * i;
-        caption(QString::fromUtf8(captions[i]), QRect(20, y, 150, 24), this);
-        auto* now = new QLabel(this);
-        now->setObjectName(arrayName("prevelements", i));
-        now->setGeometry(170, y, 60, 24);
-        now->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        prevelements_.append(now);
-        auto* box = new QLineEdit(this);
-        box->setObjectName(arrayName("elements", i));
-        box->setGeometry(250, y, 90, 24);
-        acceptStatNumbers(box);
+    for (QLineEdit* box : sheet_.elements)
         connect(box, &QLineEdit::textEdited, this, &UpdateCharacter::showPointsLeft);
-        elements_.append(box);
-    }
-
-    caption(QStringLiteral("Points Remaining:"), QRect(20, 358, 150, 24), this);
-    lblpointsleft_ = new QLabel(this);
-    lblpointsleft_->setObjectName(QStringLiteral("lblpointsleft"));
-    lblpointsleft_->setGeometry(170, 358, 60, 24);
-    lblpointsleft_->setStyleSheet(QStringLiteral("color: %1; font-weight: bold;").arg(QLatin1String(look::gold)));
-    auto* cmdcreate = new QPushButton(QStringLiteral("Upgrade!"), this);
-    cmdcreate->setObjectName(QStringLiteral("cmdcreate"));
-    cmdcreate->setGeometry(250, 372, 90, 28);
-    cmdcreate->setDefault(true);
-    connect(cmdcreate, &QPushButton::clicked, this, &UpdateCharacter::cmdcreate_Click);
+    sheet_.cmdcreate->move(250, 384);
+    connect(sheet_.cmdcreate, &QPushButton::clicked, this, &UpdateCharacter::cmdcreate_Click);
 }
 
 void UpdateCharacter::Load() {
-    txtName_->setText(game_.PlayerName.text());
+    sheet_.txtName->setText(game_.PlayerName.text());
     race_->setText(game_.PlayerRace.text());
     for (int i = 0; i < StatCount; ++i) {
-        prevelements_[i]->setText((game_.*UpgradeFields()[i]).text());
-        elements_[i]->clear();
+        sheet_.values[i]->setText((game_.*UpgradeFields()[i]).text());
+        sheet_.elements[i]->clear();
     }
     showPointsLeft();
-}
-
-StatTexts UpdateCharacter::boxes() const {
-    StatTexts texts;
-    for (int i = 0; i < StatCount; ++i)
-        texts[i] = elements_[i]->text();
-    return texts;
 }
 
 // The count is a 16-bit integer: points beyond it are refused as they are typed.
 bool UpdateCharacter::showPointsLeft() {
     try {
-        PointsLeft_ = UpgradePointsLeft(state_.PointsPerLevel, boxes());
+        PointsLeft_ = UpgradePointsLeft(state_.PointsPerLevel, boxTexts(sheet_.elements));
     } catch (const RuntimeError& error) {
         platform().dialogs.message(QStringLiteral("Those are more points than a level can count (%1).").arg(error.text()),
                                    QStringLiteral("Umbrith"), Buttons::Ok, Icon::Exclamation);
         return false;
     }
-    lblpointsleft_->setText(QString::number(PointsLeft_));
+    sheet_.lblpointsleft->setText(QString::number(PointsLeft_));
     return true;
 }
 
@@ -105,7 +64,7 @@ void UpdateCharacter::cmdcreate_Click() {
                                    Buttons::Ok, Icon::Exclamation);
         return;
     }
-    ApplyUpgrade(game_, boxes());
+    ApplyUpgrade(game_, boxTexts(sheet_.elements));
     hide();
     emit upgraded();
 }

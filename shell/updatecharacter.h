@@ -3,12 +3,11 @@
 #include "core/character.h"
 #include "core/gamerecord.h"
 #include "shell/rules/mainstate.h"
+#include "shell/statsheet.h"
 
 #include <QDialog>
-#include <QList>
 #include <cstdint>
 
-class QLabel;
 class QLineEdit;
 
 namespace umbrith {
@@ -32,7 +31,6 @@ protected:
     void reject() override {}
 
 private:
-    StatTexts boxes() const;
     bool showPointsLeft();
     void cmdcreate_Click();
 
@@ -40,11 +38,8 @@ private:
     const MainState& state_;
     int16_t PointsLeft_ = 0;
 
-    QLineEdit* txtName_;
     QLineEdit* race_;
-    QList<QLabel*> prevelements_;
-    QList<QLineEdit*> elements_;
-    QLabel* lblpointsleft_;
+    StatSheet sheet_; // prevelements as its values
 };
 
 } // namespace umbrith

@@ -3,13 +3,11 @@
 #include "core/character.h"
 #include "core/gamerecord.h"
 #include "shell/rules/mainstate.h"
+#include "shell/statsheet.h"
 
 #include <QDialog>
-#include <QList>
 
 class QComboBox;
-class QLabel;
-class QLineEdit;
 
 namespace umbrith {
 
@@ -33,7 +31,6 @@ protected:
     void reject() override { cmdCancel_Click(); }
 
 private:
-    StatTexts boxes() const;
     void showPointsLeft();
     void cmdCreate_Click();
     void cmdCancel_Click();
@@ -44,12 +41,8 @@ private:
     double PointsLeft_ = 0;
     QString defaultName_;
 
-    QLineEdit* txtName_;
     QComboBox* race_;
-    QList<QLineEdit*> elements_;
-    QList<QLabel*> lblBStats_;
-    QLabel* lblpointscaption_;
-    QLabel* lblpointsleft_;
+    StatSheet sheet_; // lblBStats as its values
 };
 
 } // namespace umbrith
