@@ -70,6 +70,13 @@ QString frameStyle() {
                           "QFrame QLabel, QFrame QCheckBox, QFrame QRadioButton { background: transparent; border: none; }");
 }
 
+QString dialogStyle() {
+    return formStyle() + frameStyle() +
+           QStringLiteral("QLabel { border: none; background: transparent; }"
+                          "QLineEdit, QComboBox { background: #0f0c0a; border: 1px solid #5a4526; padding: 1px 4px; }"
+                          "QLineEdit:read-only { color: #b8ab90; }");
+}
+
 } // namespace look
 
 } // namespace umbrith

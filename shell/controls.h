@@ -42,6 +42,8 @@ extern const char* const gold;
 extern const char* const parchment;
 QString formStyle();
 QString frameStyle();
+// A form of its own over Main: the frame look, with bare captions and dark boxes.
+QString dialogStyle();
 } // namespace look
 
 } // namespace umbrith

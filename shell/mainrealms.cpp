@@ -24,6 +24,8 @@ void Main::buildNewGame() {
     lstRealms_->setObjectName(QStringLiteral("lstRealms"));
     lstRealms_->setGeometry(16, 44, 340, 140);
     connect(lstRealms_, &QListWidget::currentRowChanged, this, &Main::lstRealms_Click);
+    // Enter or a double click on a realm plays it, as "(P)lay Game" does.
+    connect(lstRealms_, &QListWidget::itemActivated, this, [this] { lblNG_Click(0); });
     txtDescription_ = new QTextEdit(NewGameFrame_);
     txtDescription_->setObjectName(QStringLiteral("txtDescription"));
     txtDescription_->setGeometry(16, 194, 340, 112);

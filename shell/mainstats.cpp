@@ -77,7 +77,7 @@ void Main::buildPlayerInfo() {
 
     PlayerInfoFrame_ = panel("PlayerInfoFrame", QRect(16, 16, 432, 408), centralWidget());
     PlayerInfoFrame_->setStyleSheet(QStringLiteral("QFrame#PlayerInfoFrame { background: #e8dcc0; border: 3px solid #8a6d33; }"
-                                                   "QLabel { background: transparent; border: none; color: %1; }")
+                                                   "QLabel { background: transparent; border: none; color: %1; font-size: 12px; }")
                                         .arg(QLatin1String(ink)));
     QLabel* title = heading(QStringLiteral("Character"), PlayerInfoFrame_);
     title->setStyleSheet(QStringLiteral("color: #6b4a1f; font-size: 18px; font-weight: bold;"));
@@ -89,23 +89,23 @@ void Main::buildPlayerInfo() {
     }
     int y = 44;
     for (const Row& row : leftColumn) {
-        sheetCaption(row.caption, 14, y, 96, PlayerInfoFrame_);
-        plabels_[row.label]->setGeometry(110, y, 100, 20);
+        sheetCaption(row.caption, 14, y, 90, PlayerInfoFrame_);
+        plabels_[row.label]->setGeometry(104, y, 96, 20);
         y += 24;
     }
     y = 44;
-    sheetCaption("Worn", 220, y, 150, PlayerInfoFrame_);
-    sheetCaption("Wear", 368, y, 56, PlayerInfoFrame_);
+    sheetCaption("Worn", 206, y, 170, PlayerInfoFrame_);
+    sheetCaption("Wear", 378, y, 46, PlayerInfoFrame_);
     for (int i = 0; i < 6; ++i) {
         y += 24;
-        plabels_[gearRows[i].label]->setGeometry(220, y, 146, 20);
+        plabels_[gearRows[i].label]->setGeometry(206, y, 170, 20);
         plabels_[gearRows[i].label]->setToolTip(QString::fromUtf8(gearRows[i].caption));
-        plabels_[LabelWeaponDurability + i]->setGeometry(368, y, 56, 20);
+        plabels_[LabelWeaponDurability + i]->setGeometry(378, y, 46, 20);
     }
     y += 36;
     for (const Row& row : rightFigures) {
-        sheetCaption(row.caption, 220, y, 110, PlayerInfoFrame_);
-        plabels_[row.label]->setGeometry(330, y, 96, 20);
+        sheetCaption(row.caption, 206, y, 116, PlayerInfoFrame_);
+        plabels_[row.label]->setGeometry(324, y, 100, 20);
         y += 24;
     }
     auto* close = new ClickLabel(QStringLiteral("cmdpstatsclose"), QStringLiteral("(C)lose"), PlayerInfoFrame_);

@@ -48,8 +48,7 @@ RegRealm::RegRealm(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("RegRealm"));
     setWindowTitle(QStringLiteral("Create Your Realm!"));
     setAttribute(Qt::WA_DeleteOnClose);
-    setStyleSheet(look::formStyle() + look::frameStyle() +
-                  QStringLiteral("QLineEdit { background: #0f0c0a; border: 1px solid #5a4526; }"));
+    setStyleSheet(look::dialogStyle() + QStringLiteral("QPushButton { padding: 2px 6px; }"));
     setFixedSize(640, 520);
 
     heading(QStringLiteral("Create Your Realm!"), this)->setGeometry(20, 10, 400, 28);
@@ -102,14 +101,14 @@ void RegRealm::buildRaces() {
 
     RaceFrame_ = new QGroupBox(QStringLiteral("New Race"), this);
     RaceFrame_->setObjectName(QStringLiteral("RaceFrame"));
-    RaceFrame_->setGeometry(340, 50, 282, 112);
+    RaceFrame_->setGeometry(420, 44, 202, 118);
     RaceFrame_->setStyleSheet(QStringLiteral("QGroupBox { background: #231b15; border: 2px solid %1; margin-top: 12px; }"
                                              "QGroupBox::title { color: %1; left: 8px; }")
                                   .arg(QLatin1String(look::gold)));
-    txtRName_ = box(QStringLiteral("txtRName"), QRect(14, 30, 254, 24), RaceFrame_);
+    txtRName_ = box(QStringLiteral("txtRName"), QRect(12, 30, 178, 24), RaceFrame_);
     const char* const raceCaptions[] = {"Add", "Cancel"};
     for (int i = 0; i < 2; ++i)
-        connect(button(arrayName("cmdRace", i), QString::fromLatin1(raceCaptions[i]), QRect(94 + 90 * i, 68, 84, 28),
+        connect(button(arrayName("cmdRace", i), QString::fromLatin1(raceCaptions[i]), QRect(12 + 94 * i, 72, 84, 28),
                        RaceFrame_),
                 &QPushButton::clicked, this, [this, i] { cmdRace_Click(i); });
     connect(txtRName_, &QLineEdit::returnPressed, this, [this] { cmdRace_Click(0); });

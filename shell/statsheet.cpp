@@ -11,7 +11,7 @@ namespace umbrith {
 StatSheet buildStatSheet(QWidget* form, const QString& title, QWidget* race, const char* const captions[StatCount],
                          const char* valueName, const QString& columns, const QString& createCaption) {
     StatSheet sheet;
-    form->setStyleSheet(look::formStyle() + look::frameStyle());
+    form->setStyleSheet(look::dialogStyle());
     heading(title, form)->setGeometry(20, 12, 320, 28);
     caption(QStringLiteral("Name:"), QRect(20, 52, 90, 24), form);
     sheet.txtName = new QLineEdit(form);
