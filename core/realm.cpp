@@ -63,9 +63,13 @@ RealmCatalogue ReadRealmCatalogue() {
     RealmCatalogue catalogue;
     const QString folder = AppPath() + QStringLiteral("\\realms");
     for (const QString& file : listFiles(folder, QStringLiteral("*.ubr"))) {
-        QString record = ReadRealmFile(folder + u'\\' + file);
-        catalogue.names.append(RealmFields(record)[0]);
-        catalogue.records += u'\u00DC' + record;
+        try {
+            QString record = ReadRealmFile(folder + u'\\' + file);
+            catalogue.names.append(RealmFields(record)[0]);
+            catalogue.records += u'\u00DC' + record;
+        } catch (const RuntimeError& error) {
+            catalogue.unreadable.append(file + QStringLiteral(": ") + error.text());
+        }
     }
     return catalogue;
 }

@@ -65,11 +65,13 @@ void SetListFiles(const QString& listField);
 
 // The catalogue of the realms in "\realms": the names for lstRealms, and the whole
 // records joined with "Ü", each led by "Ü", in the same order. Files are taken
-// by the ".ubr" pattern sorted by name, case-insensitive. A file that is not a
-// realm raises its read error; there is no handler here.
+// by the ".ubr" pattern sorted by name, case-insensitive. A file that can't be
+// read as a record is left out, and named in `unreadable` with its error, so
+// that one bad file doesn't hide the other realms.
 struct RealmCatalogue {
     QStringList names;
     QString records;
+    QStringList unreadable; // "file: error"
 };
 RealmCatalogue ReadRealmCatalogue();
 // The record at a list index, counting the non-empty elements of the catalogue

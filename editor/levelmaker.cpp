@@ -28,6 +28,9 @@ LevelMaker::LevelMaker(QWidget* parent) : QMainWindow(parent) {
         hide();
         emit returnToMain();
     });
+    QAction* mnuFileCreateRealm = mnuMap->addAction(QStringLiteral("Create Realm..."));
+    mnuFileCreateRealm->setObjectName(QStringLiteral("mnuFileCreateRealm"));
+    connect(mnuFileCreateRealm, &QAction::triggered, this, &LevelMaker::createRealm);
 
     QMenu* mnuHelp = menuBar()->addMenu(QStringLiteral("&Help"));
     mnuHelp->setObjectName(QStringLiteral("mnuHelp"));

@@ -16,6 +16,8 @@ public:
 
 signals:
     void returnToMain();
+    // The maker asks for the realm creation form.
+    void createRealm();
 
 private:
     QPlainTextEdit* txtLog_;

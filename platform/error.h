@@ -22,11 +22,13 @@ namespace err {
 constexpr int InvalidProcedureCall = 5;
 constexpr int Overflow = 6;
 constexpr int SubscriptOutOfRange = 9;
+constexpr int DivisionByZero = 11;
 constexpr int TypeMismatch = 13;
 constexpr int FileNotFound = 53;
 constexpr int InputPastEnd = 62;
 constexpr int PathFileAccess = 75;
 constexpr int PathNotFound = 76;
+constexpr int InvalidPropertyValue = 380;
 constexpr int InvalidPicture = 481;
 
 [[noreturn]] void raise(int number);

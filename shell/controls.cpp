@@ -1,7 +1,9 @@
 #include "shell/controls.h"
 
 #include <QFrame>
+#include <QLineEdit>
 #include <QMouseEvent>
+#include <QRegularExpressionValidator>
 
 namespace umbrith {
 
@@ -25,10 +27,20 @@ QFrame* panel(const char* name, const QRect& geometry, QWidget* parent) {
     return frame;
 }
 
+QLabel* caption(const QString& text, const QRect& place, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setGeometry(place);
+    return label;
+}
+
 QLabel* heading(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setStyleSheet(QStringLiteral("color: %1; font-size: 18px; font-weight: bold;").arg(QLatin1String(look::gold)));
     return label;
+}
+
+void acceptStatNumbers(QLineEdit* box) {
+    box->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("-?\\d{0,4}")), box));
 }
 
 QString arrayName(const char* name, int index) { return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index); }
@@ -56,6 +68,13 @@ QString frameStyle() {
                           "QRadioButton::indicator { border-radius: 7px; }"
                           "QCheckBox::indicator:checked, QRadioButton::indicator:checked { background: #c9a227; }"
                           "QFrame QLabel, QFrame QCheckBox, QFrame QRadioButton { background: transparent; border: none; }");
+}
+
+QString dialogStyle() {
+    return formStyle() + frameStyle() +
+           QStringLiteral("QLabel { border: none; background: transparent; }"
+                          "QLineEdit, QComboBox { background: #0f0c0a; border: 1px solid #5a4526; padding: 1px 4px; }"
+                          "QLineEdit:read-only { color: #b8ab90; }");
 }
 
 } // namespace look

@@ -4,6 +4,7 @@
 #include <QString>
 
 class QFrame;
+class QLineEdit;
 class QRect;
 class QWidget;
 
@@ -24,8 +25,13 @@ protected:
 
 // A panel of the screen: a named frame, hidden until its key or menu shows it.
 QFrame* panel(const char* name, const QRect& geometry, QWidget* parent);
+// A plain caption at its place.
+QLabel* caption(const QString& text, const QRect& place, QWidget* parent);
 // A gold caption at the head of a panel.
 QLabel* heading(const QString& text, QWidget* parent);
+
+// A box for a statistic: whole numbers, negative too, of four digits at most.
+void acceptStatNumbers(QLineEdit* box);
 
 // A member of a control array carries its index in its name: "lblshowatstart(5)".
 QString arrayName(const char* name, int index);
@@ -36,6 +42,8 @@ extern const char* const gold;
 extern const char* const parchment;
 QString formStyle();
 QString frameStyle();
+// A form of its own over Main: the frame look, with bare captions and dark boxes.
+QString dialogStyle();
 } // namespace look
 
 } // namespace umbrith

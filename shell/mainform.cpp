@@ -130,6 +130,8 @@ void Main::buildScreen() {
     buildOptions();
     buildMessages();
     buildJournal();
+    buildNewGame();
+    buildPlayerInfo();
 }
 
 void Main::buildIntro() {
@@ -300,6 +302,7 @@ void Main::mnuMainCreateCustom_Click() {
                                        QStringLiteral("Are you sure?"), Buttons::YesNo, Icon::Question) == Answer::No)
             return;
         LeaveGame(game_, state_);
+        UpdateStats();
         for (QLabel* stat : lblPStats_)
             stat->hide();
         txtJE_->clear();
@@ -328,7 +331,7 @@ void Main::mnuMainPlayCustom_Click() {
 }
 
 void Main::PlayGame(int mode) {
-    const QString map = PlayGameStartMap(state_, mode);
+    const QString map = PlayGameStartMap(mode);
     if (map.isEmpty())
         return;
     introframe_->hide();

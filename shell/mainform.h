@@ -11,6 +11,7 @@ class QButtonGroup;
 class QCheckBox;
 class QFrame;
 class QLabel;
+class QListWidget;
 class QMenu;
 class QTextEdit;
 
@@ -20,6 +21,8 @@ class ClickLabel;
 class LevelMaker;
 class PopupBox;
 class Timer;
+class UpdateCharacter;
+class Welcome;
 
 // The game's screen and the shell of the whole tool set: the intro with its
 // start menu, the menus and options, messages, the popup and the journal.
@@ -40,6 +43,16 @@ public:
     void StartMessage(const QString& source, const QString& text);
     void ShowPopup(const QString& text, const QString& title);
     void ShowJournal();
+
+    // Realms, the character and its figures (mainrealms.cpp, mainstats.cpp).
+    void UpdateRealms();
+    void UpdateStats();
+    void ResetColors();
+    void CheckForDeath();
+    void CheckForLevelUp();
+    // The battle's repaint of the player's side, after a level's points are
+    // spent in a battle; the battle installs it.
+    std::function<void()> UpdatePlayerStats = [] {};
 
 signals:
     void popupShown(const QString& title, const QString& text);
@@ -78,6 +91,19 @@ private:
     void giveBackgroundFocus();
     QAction* action(const char* name) const;
 
+    // New game over a realm (mainrealms.cpp).
+    void buildNewGame();
+    void mnuMainNew_Click();
+    void lstRealms_Click();
+    void lblNG_Click(int index);
+    void ShowRegRealm();
+    void showWelcomeAgain();
+    // Stats panel, bars and items (mainstats.cpp).
+    void buildPlayerInfo();
+    void openPlayerInfo();
+    void cmdpstatsclose_Click();
+    void upgraded();
+
     GameRecord& game_;
     MainState state_;
     std::unique_ptr<LevelMaker> levelMaker_;
@@ -99,6 +125,17 @@ private:
     QTextEdit* txtJE_;
     QList<QLabel*> lblPStats_;
     PopupBox* PopupBox_;
+
+    QFrame* NewGameFrame_;
+    QListWidget* lstRealms_;
+    QTextEdit* txtDescription_;
+    Welcome* Welcome_;
+    UpdateCharacter* UpdateCharacter_;
+    QFrame* PlayerInfoFrame_;
+    QList<QLabel*> plabels_;
+    QList<QFrame*> bars_; // HPInd, SPInd, ExpInd
+    QListWidget* lstPItems_;
+    QString itemsListed_; // ItemsCarried as lstPItems shows it
 
     std::unique_ptr<Timer> introtimer_;
     std::unique_ptr<Timer> typemessage_;

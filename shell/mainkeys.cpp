@@ -1,15 +1,24 @@
 // Main's one key handler: every key of its controls comes here first.
 #include "shell/mainform.h"
+#include "shell/welcomeform.h"
 
 #include <QAction>
 #include <QFrame>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QTextEdit>
 
 namespace umbrith {
 
 bool Main::eventFilter(QObject* watched, QEvent* event) {
+    // While a character is being made, a click on the screen leads back to its form.
+    if (event->type() == QEvent::MouseButtonPress && isTrue(game_.CharacterCreationActive) &&
+        (watched == background_ || watched == introframe_ || watched == lblintromsg_)) {
+        Welcome_->raise();
+        Welcome_->activateWindow();
+        return false;
+    }
     if (event->type() != QEvent::KeyPress)
         return QMainWindow::eventFilter(watched, event);
     auto* widget = qobject_cast<QWidget*>(watched);
@@ -53,6 +62,10 @@ bool Main::letterKey(char letter) {
     case 'C':
         if (intro || !running)
             action("mnuMainCreateCustom")->trigger();
+        else if (PlayerInfoFrame_->isVisible())
+            cmdpstatsclose_Click();
+        else if (NewGameFrame_->isVisible())
+            lblNG_Click(1);
         else if (journalframe_->isVisible())
             closeJournal();
         return true;
@@ -70,7 +83,9 @@ bool Main::letterKey(char letter) {
         action("mnuMainOptions")->trigger();
         return true;
     case 'P':
-        if (intro)
+        if (running && !panelOpen)
+            openPlayerInfo();
+        else if (intro)
             action("mnuMainPlayCustom")->trigger();
         return true;
     case 'X':

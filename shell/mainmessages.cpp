@@ -85,15 +85,19 @@ void Main::ShowPopup(const QString& text, const QString& title) {
     popupdisplay_->setEnabled(true);
 }
 
-// Keeps the popup in front while it stands; once closed, the panel flags go.
+// Keeps the popup in front while it stands; once closed, the panel flags go
+// unless a panel stands under it.
 void Main::popupDisplayTick() {
     if (PopupBox_->isVisible()) {
         if (!PopupBox_->isActiveWindow())
             PopupBox_->raise();
         return;
     }
-    game_.ScreenPanelOpen = false;
-    game_.PopupOpen = false;
+    // A panel under the popup keeps the screen covered.
+    if (!PlayerInfoFrame_->isVisible()) {
+        game_.ScreenPanelOpen = false;
+        game_.PopupOpen = false;
+    }
     popupdisplay_->setEnabled(false);
 }
 

@@ -1,6 +1,7 @@
 #include "shell/scriptstate.h"
 
 #include "core/gamerecord.h"
+#include "core/realm.h"
 #include "platform/scripted/scriptedplatform.h"
 #include "shell/mainform.h"
 
@@ -65,7 +66,13 @@ QJsonValue controlValue(QWidget* widget) {
 } // namespace
 
 QObject* findNamed(const QString& name) {
-    for (QWidget* form : formsVisibleFirst()) {
+    const QList<QWidget*> forms = formsVisibleFirst();
+    // Forms share control names (every form has its txtName): a control on show wins.
+    for (QWidget* form : forms)
+        for (QWidget* widget : form->findChildren<QWidget*>(name))
+            if (widget->isVisible())
+                return widget;
+    for (QWidget* form : forms) {
         if (form->objectName() == name)
             return form;
         if (auto* widget = form->findChild<QWidget*>(name))
@@ -87,6 +94,14 @@ QJsonObject stateJson(const Main& main, const ScriptedPlatform& scripted) {
     json.insert("CurrentMusic", state.CurrentMusic);
     json.insert("GameLoaded", state.GameLoaded);
     json.insert("DisplayModeChanged", state.DisplayModeChanged);
+    json.insert("SelectedRealm", state.SelectedRealm);
+    json.insert("PointsAtStart", state.PointsAtStart);
+    json.insert("PointsPerLevel", state.PointsPerLevel);
+    json.insert("ShopLevelFactor", state.ShopLevelFactor);
+    QJsonArray listFiles;
+    for (const QString& path : ListFiles)
+        listFiles.append(path);
+    json.insert("ListFiles", listFiles);
     const MessageState& m = state.message;
     json.insert("MessagePos", m.MessagePos);
     json.insert("MessagePageChars", m.MessagePageChars);

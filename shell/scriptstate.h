@@ -9,8 +9,9 @@ namespace umbrith {
 class Main;
 class ScriptedPlatform;
 
-// A control, form or menu item by its objectName; those in visible forms
-// come first, since several forms may carry one name. nullptr when none.
+// A control, form or menu item by its objectName; a control on show comes
+// first, then those in visible forms, since several forms may carry one name.
+// nullptr when none.
 QObject* findNamed(const QString& name);
 
 // The program's state as scripted play dumps it: the game record, Main's

@@ -3,7 +3,7 @@
 #include "shell/rules/messages.h"
 
 #include <QString>
-#include <array>
+#include <cstdint>
 
 namespace umbrith {
 
@@ -12,9 +12,15 @@ struct MainState {
     int introIndex = 1; // the next intro line to show
     QString CurrentMusic; // the map's piece, looped while set
     bool GameLoaded = false;
-    // Equipment, item, skill and enemy lists in force, and the start map.
-    std::array<QString, 5> ListFiles;
     QString CurrentMapPath;
+    // The new-game panel: the realm records listed, the one chosen, and the
+    // points that realm gives at creation and at each level.
+    QString realmCatalogue;
+    QString SelectedRealm;
+    int16_t PointsAtStart = 0;
+    double PointsPerLevel = 0;
+    // The level's share in the shop's prices, kept by the stats update.
+    float ShopLevelFactor = 0;
     int SavedScreenWidth = 0, SavedScreenHeight = 0, SavedScreenDepth = 0;
     bool DisplayModeChanged = false;
     MessageState message;

@@ -1,6 +1,7 @@
 #include "shell/rules/startup.h"
 
 #include "core/misc.h"
+#include "core/realm.h"
 #include "platform/files.h"
 #include "platform/platform.h"
 
@@ -51,20 +52,17 @@ void SetTesterValues(GameRecord& game) {
     game.PlayerExperience = 0;
 }
 
-QString PlayGameStartMap(MainState& state, int mode) {
+QString PlayGameStartMap(int mode) {
     if (mode == 1) {
-        state.ListFiles[0] = QStringLiteral("\\config\\equip lists\\equiplist.ubc");
-        state.ListFiles[1] = QStringLiteral("\\config\\item lists\\itemlist.ubc");
-        state.ListFiles[2] = QStringLiteral("\\config\\skill lists\\skilllist.ubc");
-        state.ListFiles[3] = QStringLiteral("\\config\\enemy lists\\enemylist.ubc");
+        SetDefaultListFiles();
         const QString chosen = DialogOpenFile(QStringLiteral("Play Custom Level"), QString(), AppPath() + QStringLiteral("\\maps"),
                                               QStringLiteral("Umbrith Maps (*.ubm)|*.ubm"),
                                               QStringLiteral("There was an error loading a map!"));
         if (chosen.isEmpty())
             return QString();
-        state.ListFiles[4] = chosen.section(u'^', 0, 0).mid(AppPath().size());
+        ListFiles[StartMapFile] = chosen.section(u'^', 0, 0).mid(AppPath().size());
     }
-    const QString map = state.ListFiles[4];
+    const QString map = ListFiles[StartMapFile];
     if (map.isEmpty() || !fileExists(AppPath() + map)) {
         platform().dialogs.message(QStringLiteral("Have you downloaded all the map files required for this realm? This one "
                                                   "is missing or misplaced: ") + map,

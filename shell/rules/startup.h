@@ -25,9 +25,10 @@ void ChangemapTakesMapAsLoaded(GameRecord& game, MainState& state, const QString
 void SetTesterValues(GameRecord& game);
 
 // The first steps of starting a map: mode 1 asks for a single map and plays
-// it with the default lists. Returns the start map's stored path, or "" when
+// it with the default lists; mode 2 plays the start map of the realm chosen,
+// whose lists are already in ListFiles. Returns the start map's stored path, or "" when
 // the player cancelled or the map is missing (after "Map Error").
-QString PlayGameStartMap(MainState& state, int mode);
+QString PlayGameStartMap(int mode);
 
 // Leaving a running game for the editor: the character is healed, its items
 // and journal dropped, and the map forgotten.

@@ -94,9 +94,12 @@ TEST_F(RealmCatalogueTest, aRealmIsWrittenAsOneQuotedFieldByteForByte) {
     EXPECT_EQ(readFile("\\realms\\copy.ubr"), testdata::bytes("core/realms/beta.ubr"));
 }
 
-TEST_F(RealmCatalogueTest, anEmptyFolderGivesAnEmptyCatalogueAndAnEmptyFileAReadError) {
+TEST_F(RealmCatalogueTest, anUnreadableFileIsNamedWithItsErrorAndTheOthersAreStillListed) {
     writeFile("\\realms\\readme.txt", "x");
     EXPECT_TRUE(ReadRealmCatalogue().names.isEmpty());
     writeFile("\\realms\\empty.ubr", "");
-    EXPECT_EQ(errorOf([] { ReadRealmCatalogue(); }), err::InputPastEnd);
+    putRealms({"beta.ubr"});
+    const RealmCatalogue catalogue = ReadRealmCatalogue();
+    EXPECT_EQ(catalogue.names, QStringList({"Beta Isles"}));
+    EXPECT_EQ(catalogue.unreadable, QStringList({"empty.ubr: Input past end of file"}));
 }

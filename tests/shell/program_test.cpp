@@ -26,6 +26,7 @@ ProgramRun runProgram(const QStringList& arguments) {
     return {process.exitCode(), QString::fromLocal8Bit(process.readAllStandardError())};
 }
 
+
 } // namespace
 
 TEST(ProgramTest, aMissingProgramFolderIsRefusedWithOneMessage) {
@@ -141,6 +142,88 @@ TEST_F(ScriptRunTest, aScreenshotIsAPictureOfTheNamedControl) {
     ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
     QImage picture(dumpPath("map.png"));
     EXPECT_EQ(picture.size(), QSize(432, 408));
+}
+
+// The Fenwick realm as a maker's file: the default lists, one start map, two
+// races, five points to spend.
+const QByteArray fenwickRealm = QByteArray("\"Fenwick|Marsh and mist.|:\\config\\equip lists\\equiplist.ubc"
+                                           ":\\config\\item lists\\itemlist.ubc:\\config\\skill lists\\skilllist.ubc"
+                                           ":\\config\\enemy lists\\enemylist.ubc:\\maps\\fen.ubm|:Elf:Human|1|5|"
+                                           ":1:2:3:4:5:6:7#:0:0:0:0:0:0:0|2|1|Wren\"\r\n")
+                                    .replace('|', '\x83')  // the field separator in the file's code page
+                                    .replace('#', '\xA3'); // the group separator
+const QByteArray oneTileMap = "\"\",0,\"0|0:\",\"1:\",\"0|0\",\"\",\"\",\"\",\"\",\"default.ubt\",0,0,\"||\",0,\"\",\"\",\"\"\r\n";
+
+TEST_F(ScriptRunTest, aPlayerPicksARealmSpendsThePointsAndOpensTheStatsPanel) {
+    QDir(dir.path()).mkpath("root/realms");
+    writeFile("root/realms/fenwick.ubr", fenwickRealm);
+    writeFile("root/maps/fen.ubm", oneTileMap);
+    ProgramRun run = play("random 0.1\n"
+                          "key N\n"
+                          "select lstRealms Fenwick\n"
+                          "click lblNG(0)\n"
+                          // The New Character form waits for these.
+                          "type elements(0) 3\n"
+                          "click cmdcreate\n"
+                          "type elements(1) 2\n"
+                          "type txtName Ash\n"
+                          "click cmdcreate\n"
+                          "key P\n"
+                          "dump " + dumpPath() + "\n");
+    ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
+    QJsonObject state = dump();
+    QJsonArray boxes = state["boxes"].toArray();
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].toObject()["text"].toString(), "Please use all your available points!");
+    EXPECT_EQ(state["PlayerName"].toString(), "Ash");
+    EXPECT_EQ(state["PlayerStrength"].toString(), "4");
+    EXPECT_EQ(state["GameRunning"].toString(), "True");
+    EXPECT_EQ(state["CurrentLevel"].toString(), "fen.ubm");
+    EXPECT_EQ(state["ListFiles"].toArray()[4].toString(), "\\maps\\fen.ubm");
+    EXPECT_EQ(state["PointsPerLevel"].toDouble(), 2);
+    EXPECT_TRUE(state["visible"].toArray().contains("PlayerInfoFrame"));
+    QJsonObject controls = state["controls"].toObject();
+    EXPECT_EQ(controls["plabels(0)"].toString(), "Ash");
+    EXPECT_EQ(controls["plabels(10)"].toString(), "3 / 3");
+    EXPECT_EQ(controls["lblPStats(2)"].toString(), "200");
+}
+
+TEST_F(ScriptRunTest, aMakerCreatesARealmInTheEditorAndFindsItInTheList) {
+    QDir(dir.path()).mkpath("root/realms");
+    writeFile("root/maps/fen.ubm", oneTileMap);
+    ProgramRun run = play("random 0.1\n"
+                          "key C\n"
+                          "click mnuFileCreateRealm\n"
+                          "type txtName Fenwick\n"
+                          "type txtDescription Marsh and mist.\n"
+                          "answer-file \\config\\equip lists\\equiplist.ubc\n"
+                          "click cmdLists(0)\n"
+                          "answer-file \\config\\item lists\\itemlist.ubc\n"
+                          "click cmdLists(1)\n"
+                          "answer-file \\config\\skill lists\\skilllist.ubc\n"
+                          "click cmdLists(2)\n"
+                          "answer-file \\config\\enemy lists\\enemylist.ubc\n"
+                          "click cmdLists(3)\n"
+                          "answer-file \\maps\\fen.ubm\n"
+                          "click cmdLists(4)\n"
+                          "click cmdRaces(0)\n"
+                          "type txtRName Elf\n"
+                          "click cmdRace(0)\n"
+                          "click chkPSS\n"
+                          "type txtStatStart 5\n"
+                          "answer-file \\realms\\fen.ubr\n"
+                          "click cmdDone\n"
+                          "click mnuMapReturn\n"
+                          "key N\n"
+                          "select lstRealms Fenwick\n"
+                          "dump " + dumpPath() + "\n");
+    ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
+    QJsonObject state = dump();
+    EXPECT_EQ(state["boxes"].toArray().last().toObject()["text"].toString(), "Realm Created!");
+    QJsonObject controls = state["controls"].toObject();
+    EXPECT_EQ(controls["lstRealms"].toArray(), QJsonArray({"Fenwick"}));
+    EXPECT_EQ(controls["txtDescription"].toString(), "Marsh and mist.");
+    EXPECT_TRUE(QFile::exists(dir.filePath("root/realms/fen.ubr")));
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "core/realm.h"
 #include "shell/rules/intro.h"
 #include "shell/rules/startup.h"
 #include "tests/support/scriptedtest.h"
@@ -48,14 +49,14 @@ TEST_F(StartupTest, anotherModeIsSavedForTheExit) {
 
 TEST_F(StartupTest, aCancelledMapChoiceEndsPlayWithTheDefaultListsSet) {
     scripted.queueFile("");
-    EXPECT_EQ(PlayGameStartMap(state, 1), QString());
-    EXPECT_EQ(state.ListFiles[3], "\\config\\enemy lists\\enemylist.ubc");
+    EXPECT_EQ(PlayGameStartMap(1), QString());
+    EXPECT_EQ(ListFiles[EnemyListFile], "\\config\\enemy lists\\enemylist.ubc");
     EXPECT_TRUE(scripted.boxes.last().title == "Play Custom Level");
 }
 
 TEST_F(StartupTest, aMissingStartMapIsAMapErrorNamingThePath) {
-    state.ListFiles[4] = "\\maps\\gone.ubm";
-    EXPECT_EQ(PlayGameStartMap(state, 2), QString());
+    ListFiles[StartMapFile] = "\\maps\\gone.ubm";
+    EXPECT_EQ(PlayGameStartMap(2), QString());
     ASSERT_EQ(scripted.boxes.size(), 1);
     EXPECT_EQ(scripted.boxes[0].title, "Map Error");
     EXPECT_TRUE(scripted.boxes[0].text.endsWith("misplaced: \\maps\\gone.ubm"));
