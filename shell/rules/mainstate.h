@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/rules/messages.h"
+#include "world/worldstate.h"
 
 #include <QString>
 #include <array>
@@ -14,10 +15,11 @@ struct MainState {
     bool GameLoaded = false;
     // Equipment, item, skill and enemy lists in force, and the start map.
     std::array<QString, 5> ListFiles;
-    QString CurrentMapPath;
     int SavedScreenWidth = 0, SavedScreenHeight = 0, SavedScreenDepth = 0;
     bool DisplayModeChanged = false;
     MessageState message;
+    // The running map and the player on it.
+    WorldState world;
 };
 
 } // namespace umbrith
