@@ -1,6 +1,7 @@
 #include "core/misc.h"
 #include "shell/mainform.h"
 #include "tests/support/scriptedtest.h"
+#include "tests/support/worldmaps.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -32,7 +33,8 @@ protected:
 
     // Starts the game on a one-map custom level, as "Play Custom Levels" does.
     void startCustomGame() {
-        writeFile("\\maps\\field.ubm", "map");
+        testmaps::writeTestTileset();
+        testmaps::TestMap(18, 17).write("\\maps\\field.ubm");
         start();
         scripted.queueFile(AppPath() + "\\maps\\field.ubm");
         press(Qt::Key_P);
