@@ -15,7 +15,7 @@
 
 namespace umbrith {
 
-void Main::Changemap(const QString& mapPath, bool useLocation, const QString& location) {
+void Main::Changemap(QString mapPath, bool useLocation, QString location) {
     WorldState& world = state_.world;
     const QString path = mapPath.trimmed();
     if (path == world.CurrentMapPath) {

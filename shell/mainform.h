@@ -43,7 +43,7 @@ public:
 
     // The world runtime: map change, drawing and the player's steps
     // (mainchangemap.cpp, mainworld.cpp).
-    void Changemap(const QString& mapPath, bool useLocation, const QString& location) override;
+    void Changemap(QString mapPath, bool useLocation, QString location) override;
     void UpdateLevel(double dx, double dy) override;
     void CheckEvents(const Value& entering, const Value& x, const Value& y, const QString& events) override;
     void PauseEvents() override;

@@ -11,7 +11,8 @@ class WorldScreen {
 public:
     virtual ~WorldScreen() = default;
     virtual void UpdateLevel(double dx, double dy) = 0;
-    virtual void Changemap(const QString& mapPath, bool useLocation, const QString& location) = 0;
+    // Takes its texts by value: they often come from the tables it rebuilds.
+    virtual void Changemap(QString mapPath, bool useLocation, QString location) = 0;
     virtual void CheckEvents(const Value& entering, const Value& x, const Value& y, const QString& events) = 0;
     virtual void StartMessage(const QString& source, const QString& text) = 0;
     // The running event list waits for the message to close.

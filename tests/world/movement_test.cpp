@@ -18,7 +18,7 @@ public:
         world_.PlayerTwipY += dy;
         calls << QStringLiteral("UpdateLevel %1 %2").arg(dx).arg(dy);
     }
-    void Changemap(const QString& mapPath, bool, const QString& location) override {
+    void Changemap(QString mapPath, bool, QString location) override {
         calls << "Changemap " + mapPath + " " + location;
     }
     void CheckEvents(const Value& entering, const Value& x, const Value& y, const QString& events) override {
