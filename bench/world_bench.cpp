@@ -2,6 +2,7 @@
 // UpdateLevel's drawing against a bare loop of the same blits, the world's
 // half of Changemap into the map, and the peak memory of the program playing
 // it. Prints the medians, the peak, and, last, the drawing's ratio.
+#include "bench/benchsupport.h"
 #include "core/misc.h"
 #include "core/record.h"
 #include "platform/files.h"
@@ -9,31 +10,15 @@
 #include "world/leveldraw.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
-#include <algorithm>
 #include <cstdio>
-#include <vector>
 
 using namespace umbrith;
 
 namespace {
-
-template <typename F>
-double medianMs(F&& run, int rounds = 41) {
-    std::vector<double> times;
-    for (int i = 0; i < rounds; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        run();
-        times.push_back(timer.nsecsElapsed() / 1e6);
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 const QString BenchMap = QStringLiteral("\\maps\\bench-200.ubm");
 
@@ -96,11 +81,10 @@ long peakResidentKb(const QString& program) {
         text += QStringLiteral("key %1\nwait 200\n").arg(i % 2 ? "Right" : "Down");
     file.write(text.toUtf8());
     file.close();
+    // The program inherits the offscreen platform and silent audio.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("SDL_AUDIODRIVER", "dummy");
     QProcess process;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("QT_QPA_PLATFORM", "offscreen");
-    env.insert("SDL_AUDIODRIVER", "dummy");
-    process.setProcessEnvironment(env);
     process.start("/usr/bin/time", {"-v", program, "--root", QString(UMBRITH_PROGRAM_DIR), "--offscreen", "--script", script});
     process.waitForFinished(120000);
     const QString report = QString::fromLocal8Bit(process.readAllStandardError());
@@ -125,7 +109,7 @@ int main(int argc, char** argv) {
     const double draw = medianMs([&] {
         ComposeLevel(scene, game, world, 0, 0);
         blit(background, 0, 0, ViewWidth, ViewHeight, scene, 0, 0, RasterOp::SrcCopy);
-    });
+    }, 41);
     const Surface& sheet = world.tileset.sheet;
     const Surface& figure = world.textures.picNPCs[0];
     const double bare = medianMs([&] {
@@ -135,7 +119,7 @@ int main(int argc, char** argv) {
             blit(scene, i % 17 * 24, i / 17 * 60, 24, 48, figure, 24, 0, RasterOp::SrcAnd);
             blit(scene, i % 17 * 24, i / 17 * 60, 24, 48, figure, 0, 0, RasterOp::SrcInvert);
         }
-    });
+    }, 41);
     const long peak = peakResidentKb(QStringLiteral(UMBRITH_PROGRAM_DIR "/umbrith"));
     QFile::remove(nativePath(AppPath() + BenchMap));
 
