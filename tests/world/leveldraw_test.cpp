@@ -73,8 +73,6 @@ protected:
         world.LevelHeight = 29;
         Surface sheet(1200, 1200);
         for (int c = 0; c < 10; ++c)
-            blit(sheet, 24 * c, 0, 24, 24, Surface(QImage(24, 24, QImage::Format_RGB32)), 0, 0, RasterOp::SrcCopy);
-        for (int c = 0; c < 10; ++c)
             for (int y = 0; y < 24; ++y)
                 for (int x = 0; x < 24; ++x)
                     SetPixel(sheet, 24 * c + x, y, toColorRef(tileColor(c, 0)));
@@ -132,8 +130,6 @@ TEST_F(LevelDrawTest, hiddenNpcsAreNotDrawnAndTheRowBelowTheScreenReachesIn) {
 
 TEST_F(LevelDrawTest, theNightDarkensTheSceneButNotTheGroundPiles) {
     Surface night(867, 410);
-    blit(night, 434, 0, 433, 410, Surface(QImage(433, 410, QImage::Format_RGB32)), 0, 0, RasterOp::SrcCopy);
-    night.fill(qRgb(0, 0, 0));
     for (int y = 0; y < 410; ++y)
         for (int x = 434; x < 867; ++x)
             SetPixel(night, x, y, 0x7F7F7F);
