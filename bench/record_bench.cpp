@@ -1,33 +1,14 @@
 // Reading and splitting a one-line record of 1 MB, against a bare read of the
 // same file plus one split on ":". Prints the medians and, last, their ratio.
+#include "bench/benchsupport.h"
 #include "core/record.h"
 #include "platform/files.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <algorithm>
 #include <cstdio>
-#include <vector>
 
 using namespace umbrith;
-
-namespace {
-
-template <typename F>
-double medianMs(F&& run, int rounds = 21) {
-    std::vector<double> times;
-    for (int i = 0; i < rounds; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        run();
-        times.push_back(timer.nsecsElapsed() / 1e6);
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
-
-} // namespace
 
 int main() {
     QTemporaryDir dir;

@@ -56,6 +56,7 @@ Main::Main(GameRecord& game, QWidget* parent) : QMainWindow(parent), game_(game)
 
     buildMenus();
     buildScreen();
+    buildWorld();
     qApp->installEventFilter(this);
     FormLoad();
 }
@@ -218,6 +219,7 @@ void Main::StartIntro() {
     introframe_->show();
     background_->clear();
     state_.GameLoaded = false;
+    ResetMap(state_.world);
     // Music trouble never stops the intro; a piece that can't start is skipped.
     try {
         ubmid().fileName.clear();
@@ -302,6 +304,7 @@ void Main::mnuMainCreateCustom_Click() {
                                        QStringLiteral("Are you sure?"), Buttons::YesNo, Icon::Question) == Answer::No)
             return;
         LeaveGame(game_, state_);
+        setWorldTimers(false);
         UpdateStats();
         for (QLabel* stat : lblPStats_)
             stat->hide();
@@ -327,6 +330,7 @@ void Main::mnuMainPlayCustom_Click() {
     if (isTrue(game_.ScreenPanelOpen))
         return;
     SetTesterValues(game_);
+    LoadPaperDoll(state_.world.textures, game_);
     PlayGame(1);
 }
 
@@ -339,7 +343,8 @@ void Main::PlayGame(int mode) {
     game_.IsDay = true;
     game_.BattleActive = false;
     state_.GameLoaded = true;
-    Changemap(game_, state_, map, false, QString());
+    prepareWorldForGame();
+    Changemap(map, false, QString());
     totallevel_->show();
     totallevel_->lower();
     game_.GameRunning = true;

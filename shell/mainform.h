@@ -3,8 +3,10 @@
 #include "core/gamerecord.h"
 #include "shell/rules/mainstate.h"
 #include "shell/rules/startup.h"
+#include "world/movement.h"
 
 #include <QMainWindow>
+#include <functional>
 #include <memory>
 
 class QButtonGroup;
@@ -27,7 +29,7 @@ class Welcome;
 // The game's screen and the shell of the whole tool set: the intro with its
 // start menu, the menus and options, messages, the popup and the journal.
 // All keys of its controls come to one handler first.
-class Main : public QMainWindow {
+class Main : public QMainWindow, public WorldScreen {
     Q_OBJECT
 public:
     explicit Main(GameRecord& game, QWidget* parent = nullptr);
@@ -35,8 +37,6 @@ public:
 
     GameRecord& game() const { return game_; }
     const MainState& state() const { return state_; }
-    // The map loader; the world runtime installs the real one.
-    ChangemapFunction Changemap = ChangemapTakesMapAsLoaded;
 
     void StartIntro();
     void PlayGame(int mode);
@@ -53,6 +53,16 @@ public:
     // The battle's repaint of the player's side, after a level's points are
     // spent in a battle; the battle installs it.
     std::function<void()> UpdatePlayerStats = [] {};
+    // The world runtime: map change, drawing and the player's steps
+    // (mainchangemap.cpp, mainworld.cpp).
+    void Changemap(QString mapPath, bool useLocation, QString location) override;
+    void UpdateLevel(double dx, double dy) override;
+    void CheckEvents(const Value& entering, const Value& x, const Value& y, const QString& events) override;
+    void PauseEvents() override;
+    struct WorldTimers {
+        std::unique_ptr<Timer> AniTimer, NPCWander, daynight;
+    };
+    const WorldTimers& worldTimers() const { return worldTimers_; }
 
 signals:
     void popupShown(const QString& title, const QString& text);
@@ -103,6 +113,15 @@ private:
     void openPlayerInfo();
     void cmdpstatsclose_Click();
     void upgraded();
+    // The world runtime.
+    void buildWorld();
+    void setWorldTimers(bool on);
+    void prepareWorldForGame();
+    bool arrowKey(int key);
+    void groundKey();
+    void loadMap(const QString& path, bool useLocation, const QString& location);
+    void clearPendingMessage();
+    void playLevelMusic();
 
     GameRecord& game_;
     MainState state_;
@@ -140,6 +159,12 @@ private:
     std::unique_ptr<Timer> introtimer_;
     std::unique_ptr<Timer> typemessage_;
     std::unique_ptr<Timer> popupdisplay_;
+
+    // The world runtime: the still picture over a map change, the scene
+    // composed for totallevel, and the world's timers.
+    QLabel* framecapture_;
+    Surface scene_;
+    WorldTimers worldTimers_;
 };
 
 } // namespace umbrith

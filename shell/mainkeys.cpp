@@ -47,6 +47,8 @@ bool Main::KeyDown(int key) {
     }
     if (key >= Qt::Key_A && key <= Qt::Key_Z)
         return letterKey(char('A' + (key - Qt::Key_A)));
+    if (key == Qt::Key_Left || key == Qt::Key_Up || key == Qt::Key_Right || key == Qt::Key_Down)
+        return arrowKey(key);
     return false;
 }
 
@@ -68,6 +70,9 @@ bool Main::letterKey(char letter) {
             lblNG_Click(1);
         else if (journalframe_->isVisible())
             closeJournal();
+        return true;
+    case 'G':
+        groundKey();
         return true;
     case 'J':
         if (running && !panelOpen)

@@ -162,6 +162,7 @@ private:
             fail(where, QStringLiteral("the program has ended"));
             return false;
         }
+        yieldsInLine_ = 0;
         try {
             execute(line);
         } catch (const Failure& failure) {
@@ -171,8 +172,11 @@ private:
         return checkBoxes(where);
     }
 
-    // A loop that waits for the player yields; the script plays on from there.
+    // A loop that waits for the player yields over and over; the script plays
+    // on from there. A single yield, as every redraw makes, is no such wait.
     void runFromYield() {
+        if (++yieldsInLine_ < WaitingYields)
+            return;
         if (next_ >= lines_.size()) {
             fail(QStringLiteral("end of script"), QStringLiteral("the program is still waiting for the player"));
             std::exit(1);
@@ -328,6 +332,9 @@ private:
     QList<Line> lines_;
     qsizetype next_ = 0;
     qsizetype reported_ = 0;
+    // Yields within one line after which the program counts as waiting.
+    static constexpr int WaitingYields = 1000;
+    int yieldsInLine_ = 0;
     bool ended_ = false;
     ScriptedPlatform scripted_;
     Main* main_ = nullptr;

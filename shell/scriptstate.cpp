@@ -63,6 +63,53 @@ QJsonValue controlValue(QWidget* widget) {
     return QJsonValue::Undefined;
 }
 
+// A table's filled cells by their "x;y".
+QJsonObject tableJson(const MapTable& table) {
+    QJsonObject cells;
+    for (const MapTable::Cell& cell : table.cells())
+        cells.insert(QString::number(cell.x) + u';' + QString::number(cell.y), cell.text);
+    return cells;
+}
+
+void insertWorld(QJsonObject& json, const Main& main) {
+    const WorldState& w = main.state().world;
+    json.insert("CurrentMapPath", w.CurrentMapPath);
+    json.insert("LevelWidth", w.LevelWidth);
+    json.insert("LevelHeight", w.LevelHeight);
+    json.insert("StartLocation", w.StartLocation);
+    json.insert("ScreenWarpTop", w.ScreenWarpTop);
+    json.insert("ScreenWarpBottom", w.ScreenWarpBottom);
+    json.insert("ScreenWarpLeft", w.ScreenWarpLeft);
+    json.insert("ScreenWarpRight", w.ScreenWarpRight);
+    json.insert("LevelEnemies", w.LevelEnemies);
+    json.insert("EncounterRate", w.EncounterRate);
+    json.insert("TilesetName", w.TilesetName);
+    json.insert("LoadedTileset", w.tileset.loadedTileset);
+    json.insert("LevelMusicPath", w.LevelMusicPath);
+    json.insert("NightLevel", w.NightLevel.text());
+    json.insert("EnterMessagePending", w.EnterMessagePending);
+    json.insert("MovableNPCs", w.MovableNPCs);
+    json.insert("PastedNPCs", w.PastedNPCs);
+    json.insert("FollowerNPCs", w.FollowerNPCs);
+    json.insert("PendingFollowers", w.PendingFollowers);
+    json.insert("NPCPictureCount", w.NPCPictureCount);
+    json.insert("PlayerTwipX", w.PlayerTwipX);
+    json.insert("PlayerTwipY", w.PlayerTwipY);
+    json.insert("WalkFrame", w.WalkFrame);
+    json.insert("MapChanged", w.MapChanged);
+    json.insert("SpecialWalk", w.SpecialWalk);
+    json.insert("LastCheckEntering", w.LastCheckEntering.text());
+    json.insert("LastCheckX", w.LastCheckX.text());
+    json.insert("LastCheckY", w.LastCheckY.text());
+    json.insert("NPCAt", tableJson(w.NPCAt));
+    json.insert("GroundPileAt", tableJson(w.GroundPileAt));
+    json.insert("SpecialKind", tableJson(w.SpecialKind));
+    const Main::WorldTimers& timers = main.worldTimers();
+    json.insert("AniTimer", timers.AniTimer->enabled());
+    json.insert("NPCWander", timers.NPCWander->enabled());
+    json.insert("daynight", timers.daynight->enabled());
+}
+
 } // namespace
 
 QObject* findNamed(const QString& name) {
@@ -90,7 +137,7 @@ QJsonObject stateJson(const Main& main, const ScriptedPlatform& scripted) {
         json.insert(QLatin1String(field.name), (game.*field.member).text());
 
     const MainState& state = main.state();
-    json.insert("CurrentMapPath", state.CurrentMapPath);
+    insertWorld(json, main);
     json.insert("CurrentMusic", state.CurrentMusic);
     json.insert("GameLoaded", state.GameLoaded);
     json.insert("DisplayModeChanged", state.DisplayModeChanged);

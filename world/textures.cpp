@@ -1,5 +1,9 @@
 #include "world/textures.h"
 
+#include "core/misc.h"
+#include "platform/error.h"
+#include "platform/files.h"
+
 namespace umbrith {
 
 namespace {
@@ -7,7 +11,27 @@ namespace {
 constexpr int kCellWidth = 24;
 constexpr int kCellHeight = 48;
 
+Surface partSheet(const Value& path) {
+    const QString relative = path.text().trimmed();
+    if (relative.isEmpty() || !fileExists(AppPath() + relative))
+        return Surface();
+    try {
+        return Surface::load(AppPath() + relative);
+    } catch (const RuntimeError&) {
+        return Surface();
+    }
+}
+
 } // namespace
+
+void LoadPaperDoll(Textures& t, const GameRecord& game) {
+    t.grossbody = partSheet(game.PlayerArmourPicturePath);
+    t.grosshead = partSheet(game.PlayerHelmetPicturePath);
+    t.grossshield = partSheet(game.PlayerShieldPicturePath);
+    t.grossboots = partSheet(game.PlayerBootsPicturePath);
+    t.grossgloves = partSheet(game.PlayerGlovesPicturePath);
+    t.grossweapon = partSheet(game.PlayerWeaponPicturePath);
+}
 
 void DrawPart(Textures& textures, const Surface& sheet, int direction) {
     for (int frame = 0; frame < 3; ++frame) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/rules/messages.h"
+#include "world/worldstate.h"
 
 #include <QString>
 #include <cstdint>
@@ -12,7 +13,6 @@ struct MainState {
     int introIndex = 1; // the next intro line to show
     QString CurrentMusic; // the map's piece, looped while set
     bool GameLoaded = false;
-    QString CurrentMapPath;
     // The new-game panel: the realm records listed, the one chosen, and the
     // points that realm gives at creation and at each level.
     QString realmCatalogue;
@@ -24,6 +24,8 @@ struct MainState {
     int SavedScreenWidth = 0, SavedScreenHeight = 0, SavedScreenDepth = 0;
     bool DisplayModeChanged = false;
     MessageState message;
+    // The running map and the player on it.
+    WorldState world;
 };
 
 } // namespace umbrith

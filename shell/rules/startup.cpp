@@ -32,12 +32,6 @@ void RestoreDisplay(MainState& state) {
         ChangeDisplay(state, state.SavedScreenWidth, state.SavedScreenHeight, state.SavedScreenDepth);
 }
 
-void ChangemapTakesMapAsLoaded(GameRecord& game, MainState& state, const QString& mapPath, bool, const QString&) {
-    state.CurrentMapPath = mapPath.trimmed();
-    const QStringList parts = state.CurrentMapPath.split(u'\\', Qt::SkipEmptyParts);
-    game.CurrentLevel = parts.isEmpty() ? QString() : parts.last().trimmed();
-}
-
 void SetTesterValues(GameRecord& game) {
     SetNewGameValues(game);
     game.PlayerName = "Tester";
@@ -81,7 +75,8 @@ void LeaveGame(GameRecord& game, MainState& state) {
     game.Journal = "";
     game.GameRunning = false;
     state.CurrentMusic.clear();
-    state.CurrentMapPath.clear();
+    ResetMap(state.world);
+    state.world.CurrentMapPath.clear();
     game.CurrentLevel = "";
     game.ScreenPanelOpen = true;
 }

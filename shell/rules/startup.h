@@ -3,7 +3,6 @@
 #include "core/gamerecord.h"
 #include "shell/rules/mainstate.h"
 
-#include <functional>
 
 namespace umbrith {
 
@@ -12,14 +11,6 @@ namespace umbrith {
 void ChangeDisplay(MainState& state, int width, int height, int depth);
 void EnterGameDisplay(MainState& state);
 void RestoreDisplay(MainState& state);
-
-// Loads a map into play and places the player, at `location` when
-// `useLocation`, else at the map's start. The world runtime provides it.
-using ChangemapFunction =
-    std::function<void(GameRecord& game, MainState& state, const QString& mapPath, bool useLocation, const QString& location)>;
-// Until maps are loaded for real, a map counts as loaded where it stands.
-void ChangemapTakesMapAsLoaded(GameRecord& game, MainState& state, const QString& mapPath, bool useLocation,
-                               const QString& location);
 
 // The throw-away character of "Play Custom Levels".
 void SetTesterValues(GameRecord& game);

@@ -2,6 +2,7 @@
 
 #include "shell/mainform.h"
 #include "tests/support/scriptedtest.h"
+#include "tests/support/worldmaps.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -34,7 +35,8 @@ protected:
 
     // Starts the game on a one-map custom level, as "Play Custom Levels" does.
     void startCustomGame() {
-        writeFile("\\maps\\field.ubm", "map");
+        testmaps::writeTestTileset();
+        testmaps::TestMap(18, 17).write("\\maps\\field.ubm");
         start();
         scripted.queueFile(AppPath() + "\\maps\\field.ubm");
         press(Qt::Key_P);

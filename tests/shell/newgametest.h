@@ -4,6 +4,7 @@
 #include "core/realm.h"
 #include "shell/controls.h"
 #include "tests/shell/mainformtest.h"
+#include "tests/support/worldmaps.h"
 #include "world/mapfile.h"
 
 #include <QAbstractButton>
@@ -45,16 +46,10 @@ protected:
     }
 
     // A map of one passable tile.
+    // A small real map on the test tileset, so the game enters it for real.
     void writeMap(const QString& relative) {
-        MapFile map;
-        map.width = 0;
-        map.height = 0;
-        map.tiles = "0|0:";
-        map.passabilities = "1:";
-        map.startLocation = "0|0";
-        map.tileset = "default.ubt";
-        writeFile(relative, "");
-        WriteMapFile(AppPath() + relative, map);
+        testmaps::writeTestTileset();
+        testmaps::TestMap(18, 17).write(relative);
     }
 
     // Each look of the wait for the New Character form runs the next step.

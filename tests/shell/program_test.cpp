@@ -1,3 +1,5 @@
+#include "tests/support/worldmaps.h"
+
 #include <QDir>
 #include <QImage>
 #include <QFile>
@@ -72,6 +74,12 @@ protected:
     }
 
     QString dumpPath(const QString& name = "dump.json") { return dir.filePath(name); }
+
+    // The tileset and night picture every map of the tree needs.
+    void writeTestTileset() {
+        umbrith::setAppPath(dir.filePath("root"));
+        umbrith::testmaps::writeTestTileset();
+    }
 
     QTemporaryDir dir;
 };
@@ -152,12 +160,13 @@ const QByteArray fenwickRealm = QByteArray("\"Fenwick|Marsh and mist.|:\\config\
                                            ":1:2:3:4:5:6:7#:0:0:0:0:0:0:0|2|1|Wren\"\r\n")
                                     .replace('|', '\x83')  // the field separator in the file's code page
                                     .replace('#', '\xA3'); // the group separator
-const QByteArray oneTileMap = "\"\",0,\"0|0:\",\"1:\",\"0|0\",\"\",\"\",\"\",\"\",\"default.ubt\",0,0,\"||\",0,\"\",\"\",\"\"\r\n";
+const QByteArray oneTileMap = "\"\",0,\"0|0:\",\"1:\",\"0|0\",\"\",\"\",\"^0\",\"\",\"test.ubt\",0,0,\"||\",0,\"\",\"\",\"\"\r\n";
 
 TEST_F(ScriptRunTest, aPlayerPicksARealmSpendsThePointsAndOpensTheStatsPanel) {
     QDir(dir.path()).mkpath("root/realms");
     writeFile("root/realms/fenwick.ubr", fenwickRealm);
     writeFile("root/maps/fen.ubm", oneTileMap);
+    writeTestTileset();
     ProgramRun run = play("random 0.1\n"
                           "key N\n"
                           "select lstRealms Fenwick\n"
@@ -191,6 +200,7 @@ TEST_F(ScriptRunTest, aPlayerPicksARealmSpendsThePointsAndOpensTheStatsPanel) {
 TEST_F(ScriptRunTest, aMakerCreatesARealmInTheEditorAndFindsItInTheList) {
     QDir(dir.path()).mkpath("root/realms");
     writeFile("root/maps/fen.ubm", oneTileMap);
+    writeTestTileset();
     ProgramRun run = play("random 0.1\n"
                           "key C\n"
                           "click mnuFileCreateRealm\n"

@@ -70,7 +70,8 @@ TEST_F(StartupTest, leavingAGameHealsTheCharacterAndDropsItsItemsJournalAndMap) 
     game.ItemsCarried = "/Potion";
     game.Journal = "a;b;c";
     game.GameRunning = true;
-    state.CurrentMapPath = "\\maps\\a.ubm";
+    state.world.CurrentMapPath = "\\maps\\a.ubm";
+    state.world.MapTiles.cell(0, 0) = "24|0";
     LeaveGame(game, state);
     EXPECT_EQ(game.PlayerHP.num(), 30);
     EXPECT_EQ(game.PlayerNextLevelExp.num(), 3000);
@@ -78,7 +79,8 @@ TEST_F(StartupTest, leavingAGameHealsTheCharacterAndDropsItsItemsJournalAndMap) 
     EXPECT_EQ(game.Journal.text(), "");
     EXPECT_FALSE(isTrue(game.GameRunning));
     EXPECT_TRUE(isTrue(game.ScreenPanelOpen));
-    EXPECT_EQ(state.CurrentMapPath, "");
+    EXPECT_EQ(state.world.CurrentMapPath, "");
+    EXPECT_TRUE(state.world.MapTiles.isEmpty());
 }
 
 } // namespace
