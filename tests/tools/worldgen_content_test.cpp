@@ -83,6 +83,10 @@ TEST_F(StarterContent, TheRealmIsInTheCatalogueAndNamesTheDefaultListsAndAnExist
     const QStringList groups = realm.statistics.split(u'\u00A3');
     ASSERT_EQ(groups.size(), 2);
     for (const QString& group : groups) EXPECT_EQ(group.split(u':').size(), 8) << group.toStdString();
+    // A new character starts with every point placed: none missing, none too many.
+    double spent = 0;
+    for (const QString& value : groups[1].split(u':')) spent += Val(value);
+    EXPECT_EQ(spent, Val(realm.pointsAtStart));
 }
 
 TEST_F(StarterContent, EachListHoldsAStarterSetOfEveryKind)

@@ -36,8 +36,10 @@ QString starterRealm()
     realm.statsEditable = QStringLiteral("1");
     realm.pointsAtStart = QStringLiteral("10");
     // Strength, defence, hit points, skill points, skill power, speed, agility.
+    // The editable group is a suggested spending of the ten points, so a new
+    // player can press Create at once or move points around.
     const int base[] = {5, 5, 30, 10, 1, 5, 5};
-    const int editable[] = {2, 2, 10, 5, 0, 2, 2};
+    const int editable[] = {2, 2, 2, 1, 1, 1, 1};
     QString baseGroup, editableGroup;
     for (int i = 0; i < 7; ++i) {
         baseGroup += u':' + QString::number(base[i]);
