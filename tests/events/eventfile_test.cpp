@@ -5,21 +5,9 @@
 #include "platform/error.h"
 #include "tests/support/scriptedtest.h"
 #include "tests/support/testdata.h"
+#include "tests/support/errorof.h"
 
 using namespace umbrith;
-
-namespace {
-
-int errorOf(auto&& run) {
-    try {
-        run();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
-
-} // namespace
 
 class EventFileTest : public ScriptedTest {
 protected:

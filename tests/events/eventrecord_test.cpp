@@ -2,21 +2,13 @@
 
 #include "platform/error.h"
 #include "tests/support/qtprint.h"
+#include "tests/support/errorof.h"
 
 #include <gtest/gtest.h>
 
 using namespace umbrith;
 
 namespace {
-
-int errorOf(auto&& run) {
-    try {
-        run();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 const QString door = QString::fromUtf8("door£3;4£ô&Variables.doorkey:==:1ôgold:>=:10£*PlayerX:+=:1^1*Ned;The door creaks open.^2");
 

@@ -6,19 +6,11 @@
 #include "platform/error.h"
 #include "tests/support/scriptedtest.h"
 #include "tests/support/testdata.h"
+#include "tests/support/errorof.h"
 
 using namespace umbrith;
 
 namespace {
-
-int errorOf(auto&& run) {
-    try {
-        run();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 QString list(const char* name) { return ReadListFile(testdata::path(QString("inventory/") + name)); }
 

@@ -5,6 +5,7 @@
 #include "platform/error.h"
 #include "tests/support/scriptedtest.h"
 #include "tests/support/testdata.h"
+#include "tests/support/errorof.h"
 
 using namespace umbrith;
 
@@ -15,15 +16,6 @@ QStringList itemTexts(const MapFile& m) {
     return {m.specials,     m.reserved2.text(), m.tiles,      m.passabilities, m.startLocation, m.music,
             m.screenWarps,  m.enemies,          m.events,     m.tileset,       m.width.text(),  m.height.text(),
             m.reserved13,   m.night.text(),     m.groundItems, m.npcs,         m.reserved17};
-}
-
-int errorOf(auto&& run) {
-    try {
-        run();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
 }
 
 MapFile fenwick() { return ReadMapFile(testdata::path("world/maps/fenwick/map.ubm")); }

@@ -6,24 +6,12 @@
 #include "platform/error.h"
 #include "tests/support/scriptedtest.h"
 #include "tests/support/testdata.h"
+#include "tests/support/errorof.h"
 
 #include <QBuffer>
 #include <QDir>
 
 using namespace umbrith;
-
-namespace {
-
-int errorOf(auto&& run) {
-    try {
-        run();
-    } catch (const RuntimeError& error) {
-        return error.number();
-    }
-    return 0;
-}
-
-} // namespace
 
 TEST(TilesetTest, tileIndexAndPixelOriginConvertBothWays) {
     for (int index = 0; index < TileCount; ++index)
