@@ -1,31 +1,16 @@
 // Reading and writing a 200 x 200 map with 2,000 events, 100 NPCs and 500
 // specials, against a bare read of the same file plus one split on ":".
 // Prints the medians, the read and write ratios, and last the larger ratio.
+#include "bench/benchsupport.h"
 #include "world/mapfile.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
-#include <algorithm>
 #include <cstdio>
-#include <vector>
 
 using namespace umbrith;
 
 namespace {
-
-template <typename F>
-double medianMs(F&& run, int rounds = 15) {
-    std::vector<double> times;
-    for (int i = 0; i < rounds; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        run();
-        times.push_back(timer.nsecsElapsed() / 1e6);
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 MapFile bigMap() {
     MapFile map;
