@@ -27,7 +27,9 @@ bool LoadNpcPicture(WorldState& world, const QString& imagePath) {
     const QString path = AppPath() + imagePath.trimmed();
     if (!fileExists(path))
         return false;
-    Surface picture = Surface::load(path);
+    auto cached = world.textures.npcSheetsByPath.constFind(path);
+    Surface picture = cached != world.textures.npcSheetsByPath.cend() ? *cached : Surface::load(path);
+    world.textures.npcSheetsByPath.insert(path, picture);
     auto& sheets = world.textures.picNPCs;
     if (sheets.size() <= size_t(world.NPCPictureCount))
         sheets.resize(world.NPCPictureCount + 1);

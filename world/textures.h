@@ -3,6 +3,9 @@
 #include "core/gamerecord.h"
 #include "platform/surface.h"
 
+#include <QHash>
+#include <QString>
+
 #include <array>
 #include <vector>
 
@@ -18,6 +21,9 @@ struct Textures {
     std::array<Surface, 12> picdirorig, picdirneg;
     Surface picPNPC;
     std::vector<Surface> picNPCs = std::vector<Surface>(1); // slot 0 always exists
+    // The running map's NPC sheets by path: NPCs that share a picture read it
+    // once, and share its pixels.
+    QHash<QString, Surface> npcSheetsByPath;
     Surface nightoriginal; // the night's picture, its mask at x = 434
     Surface grounditems;   // the pile icon, its mask at x = 24
 };

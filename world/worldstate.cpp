@@ -40,6 +40,7 @@ void ResetMap(WorldState& world) {
     world.GroundItemsText.clear();
     if (world.textures.picNPCs.size() > 1)
         world.textures.picNPCs.resize(1);
+    world.textures.npcSheetsByPath.clear();
     world.MovableNPCs.clear();
     world.PastedNPCs.clear();
     world.NPCPictureCount = 0;
