@@ -51,7 +51,7 @@ void Main::SaveGame() {
     }
 }
 
-// A load replaces the running game without asking. A save that breaks off
+// A load replaces the running game without asking. A save file that breaks off
 // halfway leaves what it had set so far: there is no going back.
 void Main::OpenGame() {
     QString path;
