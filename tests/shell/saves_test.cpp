@@ -241,6 +241,25 @@ TEST_F(SavesTest, aBadSaveShowsThePopupWithItsTitleAndTheGameGoesOn) {
     EXPECT_TRUE(isTrue(game.GameRunning));
 }
 
+TEST_F(SavesTest, aLoadAfterDeathPutsTheNewCharacterFormAwayAndPlaysAgain) {
+    startGame();
+    save("hero.ubs");
+    game.PlayerHP = 0;
+    scripted.queueDraw(0.5f); // the intro's piece
+    main->CheckForDeath();
+    EXPECT_FALSE(control<QAction>("mnuMainSave")->isEnabled());
+    ASSERT_TRUE(visible("Welcome"));
+    control("PopupBox")->hide();
+    scripted.advance(1);
+    load("hero.ubs");
+    EXPECT_FALSE(visible("Welcome"));
+    EXPECT_FALSE(isTrue(game.CharacterCreationActive));
+    EXPECT_FALSE(visible("introframe"));
+    EXPECT_TRUE(isTrue(game.GameRunning));
+    EXPECT_EQ(game.PlayerHP.num(), 1);
+    EXPECT_TRUE(control<QAction>("mnuMainSave")->isEnabled());
+}
+
 TEST_F(SavesTest, pathsShorterThanTheProgramFolderAreRefusedWithTheirOwnTexts) {
     startGame();
     scripted.queueFile("\\x.ubs");
