@@ -57,6 +57,7 @@ Main::Main(GameRecord& game, QWidget* parent) : QMainWindow(parent), game_(game)
     buildMenus();
     buildScreen();
     buildWorld();
+    buildSaves();
     qApp->installEventFilter(this);
     FormLoad();
 }

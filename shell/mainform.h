@@ -122,6 +122,10 @@ private:
     void loadMap(const QString& path, bool useLocation, const QString& location);
     void clearPendingMessage();
     void playLevelMusic();
+    // Saved games (mainsaves.cpp).
+    void buildSaves();
+    void SaveGame();
+    void OpenGame();
 
     GameRecord& game_;
     MainState state_;

@@ -93,6 +93,10 @@ bool Main::letterKey(char letter) {
         else if (intro)
             action("mnuMainPlayCustom")->trigger();
         return true;
+    case 'S':
+        if (running && !panelOpen && action("mnuMainSave")->isEnabled())
+            action("mnuMainSave")->trigger();
+        return true;
     case 'X':
         action("mnuMainExit")->trigger();
         return true;

@@ -92,6 +92,8 @@ void insertWorld(QJsonObject& json, const Main& main) {
     json.insert("PastedNPCs", w.PastedNPCs);
     json.insert("FollowerNPCs", w.FollowerNPCs);
     json.insert("PendingFollowers", w.PendingFollowers);
+    json.insert("HoldTileEntries", w.HoldTileEntries);
+    json.insert("AnimationRunning", w.AnimationRunning);
     json.insert("NPCPictureCount", w.NPCPictureCount);
     json.insert("PlayerTwipX", w.PlayerTwipX);
     json.insert("PlayerTwipY", w.PlayerTwipY);

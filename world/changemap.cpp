@@ -44,15 +44,20 @@ QString LevelName(const QString& mapPath) {
     return parts.isEmpty() ? QString() : parts.last().trimmed();
 }
 
-QString CollectFollowers(WorldState& world) {
-    QString followers;
+QString HeldEntries(const WorldState& world) {
+    QString held;
     for (const QString& record : NonEmptyParts(world.MovableNPCs, u';')) {
         const QStringList a = record.split(u':');
         if (a.value(8) == u"1")
-            followers += u'\u00A3' + world.NPCAt.at(CellIndex(a.value(1)), CellIndex(a.value(0)));
+            held += u'\u00A3' + world.NPCAt.at(CellIndex(a.value(1)), CellIndex(a.value(0)));
     }
-    followers += world.PendingFollowers;
+    return held;
+}
+
+QString CollectFollowers(WorldState& world) {
+    const QString followers = HeldEntries(world) + world.PendingFollowers + world.HoldTileEntries;
     world.PendingFollowers.clear();
+    world.HoldTileEntries.clear();
     world.FollowerNPCs = followers;
     return followers;
 }

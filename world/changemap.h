@@ -15,9 +15,14 @@ namespace umbrith {
 // path split on "\", trimmed.
 QString LevelName(const QString& mapPath);
 
-// Followers leaving the running map: the map record (from NPCAt) of every
-// movable NPC that follows the player, each led by "£", then the pending
-// followers, which are emptied. Sets and returns FollowerNPCs.
+// The map record (from NPCAt) of every movable NPC that follows the player,
+// each led by "£": what a save keeps of the running map. A place at 501 or
+// beyond raises "Subscript out of range".
+QString HeldEntries(const WorldState& world);
+
+// Followers leaving the running map: the held entries, then the pending
+// followers and the entries a loaded save holds, both emptied. Sets and
+// returns FollowerNPCs.
 QString CollectFollowers(WorldState& world);
 
 // The scalars read with the file: sizes as stored (reduced later), music,

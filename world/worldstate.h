@@ -69,6 +69,8 @@ struct WorldState {
     // "£"-led map records of the followers carried to the next map.
     QString MovableNPCs, PastedNPCs, FollowerNPCs, PendingFollowers, NPCRebuild;
     int NPCPictureCount = 0;
+    // The followers a loaded save brought, placed by the next map change.
+    QString HoldTileEntries;
 
     // The player on the map, beside PlayerX and PlayerY of the game record.
     double PlayerTwipX = 0, PlayerTwipY = 0;
@@ -77,6 +79,8 @@ struct WorldState {
     int PlayerFrame = 0;
     bool PlayerAnimated = false;
     bool PlayerVisible = true;
+    // Set and cleared by the events' "Start Animation" and "Stop Animation".
+    bool AnimationRunning = false;
 
     // Flags of a step.
     bool MapChanged = false;

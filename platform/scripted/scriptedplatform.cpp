@@ -158,6 +158,7 @@ QString ScriptedPlatform::input(const QString& prompt, const QString& title, con
 
 QString ScriptedPlatform::nextFile(const QString& kind, const FileDialogSettings& settings) {
     logBox(kind, settings.title, settings.filter);
+    lastFileDialog = settings;
     if (files_.isEmpty()) {
         missing_ << QStringLiteral("no answer for the file dialog \"%1\"").arg(settings.title);
         return QString();

@@ -51,6 +51,8 @@ public:
     // Logs.
     QList<Box> boxes;
     QStringList sounds; // "sound <path>", "<device> <command> <file>"
+    // The settings of the latest file dialog.
+    FileDialogSettings lastFileDialog;
     // Problems so far, and the answers and draws never used.
     QStringList problems() const;
     // The boxes, dialogs and draws that found no answer, in order.
