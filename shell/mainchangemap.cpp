@@ -92,10 +92,8 @@ void Main::loadMap(const QString& path, bool useLocation, const QString& locatio
     LoadScreenWarps(world, map.screenWarps);
     action("mnuMainSave")->setEnabled(true);
     LoadSpecials(world, map.specials);
-    if (!isTrue(game_.PlayerUsesImage)) {
-        LoadPaperDoll(world.textures, game_);
+    if (!isTrue(game_.PlayerUsesImage))
         UpdateCharacterPic(world.textures);
-    }
     playLevelMusic();
     world.WalkDirection = QStringLiteral("U");
     UpdateStats();

@@ -9,6 +9,7 @@
 #include "shell/mainform.h"
 #include "shell/regrealm.h"
 #include "shell/welcomeform.h"
+#include "world/textures.h"
 
 #include <QAction>
 #include <QFrame>
@@ -43,7 +44,12 @@ void Main::buildNewGame() {
     }
 
     Welcome_ = new Welcome(game_, state_, this);
-    connect(Welcome_, &Welcome::created, this, [this] { PlayGame(2); });
+    // A new character wears the default clothes: their pictures are loaded
+    // here, once, and every map change after draws from them.
+    connect(Welcome_, &Welcome::created, this, [this] {
+        LoadPaperDoll(state_.world.textures, game_);
+        PlayGame(2);
+    });
     connect(Welcome_, &Welcome::cancelled, this, [this] {
         raise();
         activateWindow();
