@@ -48,11 +48,12 @@ void Main::setWorldTimers(bool on) {
 }
 
 // The start of a game forgets the map that ran before, so the start map
-// always loads from its file.
+// always loads from its file, and the game's first day is a whole one.
 void Main::prepareWorldForGame() {
     worldTimers_.NPCWander->setEnabled(false);
     worldTimers_.daynight->setEnabled(false);
     state_.world.CurrentMapPath.clear();
+    state_.world.DayTicks = 0;
     ResetMap(state_.world);
 }
 

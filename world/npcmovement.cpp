@@ -33,9 +33,9 @@ void Wander(const GameRecord& game, WorldState& world, WorldScreen& screen, cons
     MoveNPCDir(game, world, screen, record, direction);
 }
 
-// The step of a follower or an evader toward or away from the player. On
-// either axis, `toward` and `away` are the player's side of the NPC: greater
-// or smaller coordinate; standing level with him, a coin decides.
+// The step of a follower toward the player or of an evader away from him.
+// On the axis chosen, a follower steps to the player's side and an evader to
+// the other; level with him, a coin picks the side.
 void Pursue(const GameRecord& game, WorldState& world, WorldScreen& screen, const QString& record, const QStringList& a) {
     const double x = Val(a[RunX]), y = Val(a[RunY]);
     const double px = game.PlayerX.num(), py = game.PlayerY.num();
