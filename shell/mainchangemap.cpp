@@ -95,7 +95,6 @@ void Main::loadMap(const QString& path, bool useLocation, const QString& locatio
     if (!isTrue(game_.PlayerUsesImage))
         UpdateCharacterPic(world.textures);
     playLevelMusic();
-    world.WalkDirection = QStringLiteral("U");
     UpdateStats();
     worldTimers_.AniTimer->setEnabled(true);
     worldTimers_.NPCWander->setEnabled(true);

@@ -143,6 +143,9 @@ void Main::ResetColors() {
 // The equipment and skill lists stand on the inventory panel, and the gold
 // of the shop on its trading panel; each is filled where it stands.
 void Main::UpdateStats() {
+    // The stats' mode and the walk frames' direction are one variable: every
+    // update starts the frames rising again.
+    state_.world.WalkDirection = QStringLiteral("U");
     if (PlayerInfoFrame_->isVisible()) {
         const QStringList texts = PlayerLabelTexts(game_);
         for (int i = 0; i < PlayerLabelCount; ++i)

@@ -7,6 +7,8 @@
 #include "world/changemap.h"
 #include "world/leveldraw.h"
 #include "world/movement.h"
+#include "world/npcmovement.h"
+#include "world/worldclock.h"
 
 #include <QLabel>
 #include <QPixmap>
@@ -22,14 +24,21 @@ void Main::buildWorld() {
     scene_ = Surface(ViewWidth, ViewHeight);
 
     Clock& clock = platform().clock;
-    // The frame steps and the NPCs' moves are not played yet: the animation
-    // tick only keeps the picture in step with the world.
+    // Battles and panels freeze the animation where it stands.
     worldTimers_.AniTimer = clock.createTimer(QStringLiteral("AniTimer"), 200, [this] {
-        if (!isTrue(game_.BattleActive) && !isTrue(game_.ScreenPanelOpen))
-            UpdateLevel(0, 0);
+        if (isTrue(game_.BattleActive) || isTrue(game_.ScreenPanelOpen))
+            return;
+        StepWalkFrame(state_.world);
+        UpdateLevel(0, 0);
     });
-    worldTimers_.NPCWander = clock.createTimer(QStringLiteral("NPCWander"), 300, [] {});
-    worldTimers_.daynight = clock.createTimer(QStringLiteral("daynight"), 60000, [] {});
+    worldTimers_.NPCWander = clock.createTimer(QStringLiteral("NPCWander"), 300, [this] {
+        platform().clock.yield();
+        if (NPCsMayWalk(game_, state_.world, state_.message.EventPaused))
+            NPCWanderTick(game_, state_.world, *this);
+    });
+    // The clock of the realm runs on through messages and panels; the next
+    // redraw shows the night.
+    worldTimers_.daynight = clock.createTimer(QStringLiteral("daynight"), 60000, [this] { TickDayClock(game_, state_.world); });
 }
 
 void Main::setWorldTimers(bool on) {
@@ -39,11 +48,12 @@ void Main::setWorldTimers(bool on) {
 }
 
 // The start of a game forgets the map that ran before, so the start map
-// always loads from its file.
+// always loads from its file, and the game's first day is a whole one.
 void Main::prepareWorldForGame() {
     worldTimers_.NPCWander->setEnabled(false);
     worldTimers_.daynight->setEnabled(false);
     state_.world.CurrentMapPath.clear();
+    state_.world.DayTicks = 0;
     ResetMap(state_.world);
 }
 

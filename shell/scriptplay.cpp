@@ -173,8 +173,14 @@ private:
     }
 
     // A loop that waits for the player yields over and over; the script plays
-    // on from there. A single yield, as every redraw makes, is no such wait.
+    // on from there. A single yield, as every redraw makes, is no such wait,
+    // nor are the yields of the many timer ticks of a long "wait": the count
+    // starts again at each moment of the virtual clock.
     void runFromYield() {
+        if (scripted_.now() != lastYieldAt_) {
+            lastYieldAt_ = scripted_.now();
+            yieldsInLine_ = 0;
+        }
         if (++yieldsInLine_ < WaitingYields)
             return;
         if (next_ >= lines_.size()) {
@@ -335,6 +341,7 @@ private:
     // Yields within one line after which the program counts as waiting.
     static constexpr int WaitingYields = 1000;
     int yieldsInLine_ = 0;
+    qint64 lastYieldAt_ = 0;
     bool ended_ = false;
     ScriptedPlatform scripted_;
     Main* main_ = nullptr;

@@ -98,6 +98,11 @@ void insertWorld(QJsonObject& json, const Main& main) {
     json.insert("PlayerTwipX", w.PlayerTwipX);
     json.insert("PlayerTwipY", w.PlayerTwipY);
     json.insert("WalkFrame", w.WalkFrame);
+    json.insert("WalkDirection", w.WalkDirection);
+    json.insert("DayTicks", w.DayTicks);
+    json.insert("NPCRebuild", w.NPCRebuild);
+    json.insert("BlockedX", w.BlockedX);
+    json.insert("BlockedY", w.BlockedY);
     json.insert("MapChanged", w.MapChanged);
     json.insert("SpecialWalk", w.SpecialWalk);
     json.insert("LastCheckEntering", w.LastCheckEntering.text());

@@ -13,9 +13,6 @@ namespace umbrith {
 
 namespace {
 
-// A location half as an index: numeric-prefix parse, halves to even.
-int CellIndex(const QString& text) { return toInt32(Value(Val(text))); }
-
 QString FieldAt(const QStringList& fields, int index) {
     if (index >= fields.size())
         err::raise(err::SubscriptOutOfRange);

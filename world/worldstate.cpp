@@ -31,6 +31,8 @@ QList<MapTable::Cell> MapTable::cells() const {
     return result;
 }
 
+int CellIndex(const QString& text) { return toInt32(Value(Val(text))); }
+
 void ResetMap(WorldState& world) {
     for (MapTable* table : {&world.MapTiles, &world.MapPass, &world.SpecialKind, &world.MessageLocation,
                             &world.MessageSource, &world.MessageActivation, &world.MessageText, &world.WarpSource,

@@ -71,11 +71,15 @@ struct WorldState {
     int NPCPictureCount = 0;
     // The followers a loaded save brought, placed by the next map change.
     QString HoldTileEntries;
+    // The last horizontal or vertical step of a follower or evader failed;
+    // one pair for all NPCs of the map.
+    bool BlockedX = false, BlockedY = false;
 
     // The player on the map, beside PlayerX and PlayerY of the game record.
     double PlayerTwipX = 0, PlayerTwipY = 0;
     int WalkFrame = 0;
     QString WalkDirection = QStringLiteral("U"); // the frames rise ("U") or fall ("B")
+    int DayTicks = 0; // minutes of the phase of day or night gone by
     int PlayerFrame = 0;
     bool PlayerAnimated = false;
     bool PlayerVisible = true;
@@ -94,6 +98,27 @@ struct WorldState {
     Textures textures;
     TilesetState tileset;
 };
+
+// The fields of a run-time record of MovableNPCs.
+enum RuntimeNpcField {
+    RunY = 0,
+    RunX,
+    RunImagePath,
+    RunSprite,
+    RunPictureSlot,
+    RunVisible,
+    RunWanders,
+    RunName,
+    RunFollows,
+    RunWarpFollow,
+    RunEvades,
+    RunAnimated,
+    RunAnimation,
+};
+inline constexpr int RunFieldCount = 13;
+
+// A location half as an index: numeric-prefix parse, halves to even.
+int CellIndex(const QString& text);
 
 // Tears the running map down: every table and NPC list emptied, the NPC
 // pictures unloaded but for the first slot.
