@@ -90,7 +90,8 @@ void writeContent(const QString& programFolder)
     // The tileset's passabilities go through the game's own writer, and the
     // maps are laid out from what its reader makes of them.
     QStringList tilePass;
-    for (int value : buildDefaultTileset().passability())
+    const TileSheet sheet = buildDefaultTileset();
+    for (int value : sheet.passability())
         tilePass << QString::number(value);
     const QString tileset = root + QStringLiteral("\\tilesets\\default.ubt");
     WriteTilesetFile(tileset, TilesetRecord(tilePass, QStringLiteral("default.bmp")));
