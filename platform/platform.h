@@ -51,6 +51,9 @@ public:
     virtual void sleep(int ms) = 0;
     // Runs pending events, so timers can fire inside a long operation.
     virtual void yield() = 0;
+    // Runs events until `waiting` turns false: the program waits for the
+    // player (a form shown modelessly whose answer it needs).
+    virtual void waitWhile(const std::function<bool()>& waiting) = 0;
 };
 
 class Random {

@@ -113,12 +113,8 @@ void Main::lblNG_Click(int index) {
     }
     Welcome_->show();
     Welcome_->activateWindow();
-    // The player creates or cancels meanwhile; a moment's rest between looks
-    // keeps the wait from spinning the processor.
-    while (Welcome_->isVisible()) {
-        platform().clock.yield();
-        platform().clock.sleep(10);
-    }
+    // The player creates or cancels meanwhile.
+    platform().clock.waitWhile([this] { return Welcome_->isVisible(); });
     if (!game_.PlayerName.text().isEmpty()) {
         NewGameFrame_->hide();
         game_.ScreenPanelOpen = false;

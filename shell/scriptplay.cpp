@@ -128,11 +128,11 @@ public:
         QApplication::processEvents();
         if (!checkBoxes(QStringLiteral("start-up")))
             return 1;
-        scripted_.onYield = [this] { runFromYield(); };
+        scripted_.onWait = [this] { runWhileWaiting(); };
         while (next_ < lines_.size())
             if (!runNext())
                 return 1;
-        scripted_.onYield = nullptr;
+        scripted_.onWait = nullptr;
         QStringList left = scripted_.problems();
         if (!left.isEmpty())
             return fail(QStringLiteral("end of script"), left.join(QStringLiteral("; ")));
@@ -162,7 +162,6 @@ private:
             fail(where, QStringLiteral("the program has ended"));
             return false;
         }
-        yieldsInLine_ = 0;
         try {
             execute(line);
         } catch (const Failure& failure) {
@@ -172,17 +171,8 @@ private:
         return checkBoxes(where);
     }
 
-    // A loop that waits for the player yields over and over; the script plays
-    // on from there. A single yield, as every redraw makes, is no such wait,
-    // nor are the yields of the many timer ticks of a long "wait": the count
-    // starts again at each moment of the virtual clock.
-    void runFromYield() {
-        if (scripted_.now() != lastYieldAt_) {
-            lastYieldAt_ = scripted_.now();
-            yieldsInLine_ = 0;
-        }
-        if (++yieldsInLine_ < WaitingYields)
-            return;
+    // While the program waits for the player, the script plays on.
+    void runWhileWaiting() {
         if (next_ >= lines_.size()) {
             fail(QStringLiteral("end of script"), QStringLiteral("the program is still waiting for the player"));
             std::exit(1);
@@ -338,10 +328,6 @@ private:
     QList<Line> lines_;
     qsizetype next_ = 0;
     qsizetype reported_ = 0;
-    // Yields within one line after which the program counts as waiting.
-    static constexpr int WaitingYields = 1000;
-    int yieldsInLine_ = 0;
-    qint64 lastYieldAt_ = 0;
     bool ended_ = false;
     ScriptedPlatform scripted_;
     Main* main_ = nullptr;

@@ -42,6 +42,13 @@ public:
     }
     void sleep(int ms) override { QThread::msleep(ms); }
     void yield() override { QCoreApplication::processEvents(); }
+    // A moment's rest between looks keeps the wait from spinning the processor.
+    void waitWhile(const std::function<bool()>& waiting) override {
+        while (waiting()) {
+            QCoreApplication::processEvents();
+            QThread::msleep(10);
+        }
+    }
 };
 
 class RealRandom : public Random {

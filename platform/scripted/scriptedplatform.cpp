@@ -180,10 +180,16 @@ std::unique_ptr<Timer> ScriptedPlatform::createTimer(const QString& name, int in
 void ScriptedPlatform::yield() {
     if (QCoreApplication::instance())
         QCoreApplication::processEvents();
-    if (onYield && !yielding_) {
-        yielding_ = true;
-        onYield();
-        yielding_ = false;
+}
+
+void ScriptedPlatform::waitWhile(const std::function<bool()>& waiting) {
+    while (waiting()) {
+        yield();
+        if (!onWait) {
+            missing_ << QStringLiteral("the program waits for the player and nothing answers");
+            return;
+        }
+        onWait();
     }
 }
 

@@ -42,8 +42,9 @@ public:
     void advance(int ms);
     qint64 now() const { return now_; }
     qint64 slept() const { return slept_; }
-    // Called by yield(): scripted play runs its next line there.
-    std::function<void()> onYield;
+    // Called while the program waits for the player: scripted play runs its
+    // next line there, and must make the wait end sooner or later.
+    std::function<void()> onWait;
 
     // A piece on the named device ends by itself: its Done arrives with status 1.
     void finishPiece(const QString& device);
@@ -70,6 +71,7 @@ private:
     std::unique_ptr<Timer> createTimer(const QString& name, int intervalMs, std::function<void()> onTick) override;
     void sleep(int ms) override { slept_ += ms; }
     void yield() override;
+    void waitWhile(const std::function<bool()>& waiting) override;
     float draw() override;
     void playSound(const QString& path) override;
     Sequencer& sequencer(const QString& name) override;
@@ -88,7 +90,6 @@ private:
     DisplayMode mode_{1024, 768, 32};
     qint64 now_ = 0;
     qint64 slept_ = 0;
-    bool yielding_ = false;
 };
 
 } // namespace umbrith

@@ -20,7 +20,7 @@ namespace umbrith {
 class NewGameTest : public MainFormTest {
 protected:
     void TearDown() override {
-        scripted.onYield = nullptr;
+        scripted.onWait = nullptr;
         MainFormTest::TearDown();
     }
 
@@ -55,7 +55,7 @@ protected:
     // Each look of the wait for the New Character form runs the next step.
     void whileWelcomeWaits(QList<std::function<void()>> steps) {
         steps_ = std::move(steps);
-        scripted.onYield = [this] {
+        scripted.onWait = [this] {
             if (steps_.isEmpty()) {
                 ADD_FAILURE() << "the form waits with no step left";
                 welcome()->hide();
@@ -91,7 +91,7 @@ protected:
             create();
         }});
         play();
-        scripted.onYield = nullptr;
+        scripted.onWait = nullptr;
         ASSERT_TRUE(isTrue(game.GameRunning));
     }
 
