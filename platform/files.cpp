@@ -64,12 +64,13 @@ QString readTextFile(const QString& path) {
     return decodeWindows1252(file.readAll());
 }
 
-void writeTextFile(const QString& path, const QString& text) {
+void writeTextFile(const QString& path, const QString& text) { writeWholeFile(path, encodeWindows1252(text)); }
+
+void writeWholeFile(const QString& path, const QByteArray& bytes) {
     QString native = nativePath(path);
     QSaveFile file(native);
     if (!file.open(QIODevice::WriteOnly))
         raiseOpenFailure(native);
-    QByteArray bytes = encodeWindows1252(text);
     if (file.write(bytes) != bytes.size() || !file.commit())
         err::raise(err::PathFileAccess);
 }

@@ -17,6 +17,10 @@ bool folderExists(const QString& path);
 QString readTextFile(const QString& path);
 // Writes the whole text or nothing: a reader sees the old file or the new one.
 void writeTextFile(const QString& path, const QString& text);
+// Every write of the program comes here: the bytes go to a temporary file
+// beside the target, which is renamed over it only when all were written.
+// Failures are RuntimeErrors as for reading.
+void writeWholeFile(const QString& path, const QByteArray& bytes);
 
 // Names of the files in a folder matching a wildcard pattern, sorted.
 QStringList listFiles(const QString& folder, const QString& pattern);

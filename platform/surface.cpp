@@ -3,6 +3,7 @@
 #include "platform/error.h"
 #include "platform/files.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QImageReader>
 #include <algorithm>
@@ -26,8 +27,12 @@ Surface Surface::load(const QString& path) {
 }
 
 void Surface::saveBitmap(const QString& path) const {
-    if (!image_.convertToFormat(QImage::Format_RGB888).save(nativePath(path), "BMP"))
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!image_.convertToFormat(QImage::Format_RGB888).save(&buffer, "BMP"))
         err::raise(err::PathFileAccess);
+    writeWholeFile(path, bytes);
 }
 
 void Surface::fill(QRgb color) { image_.fill(color); }

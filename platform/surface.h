@@ -21,7 +21,7 @@ public:
     // Loads any picture format Qt reads; a missing file raises 53, one that is
     // not a picture raises 481 ("Invalid picture").
     static Surface load(const QString& path);
-    // Saves as a Windows bitmap (24-bit).
+    // Saves as a Windows bitmap (24-bit), whole or not at all (writeWholeFile).
     void saveBitmap(const QString& path) const;
 
     bool isNull() const { return image_.isNull(); }

@@ -2,6 +2,7 @@
 #include "tests/support/qtprint.h"
 #include "platform/surface.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -58,4 +59,23 @@ TEST(SurfaceTest, picturesSaveAsBitmapsAndLoadAsRgb32) {
         EXPECT_EQ(error.number(), err::InvalidPicture);
     }
     EXPECT_THROW(Surface::load(dir.path() + "/none.bmp"), RuntimeError);
+}
+
+TEST(SurfaceTest, aSavedPictureReplacesTheOldFileWholeAndAFailedSaveWritesNothing) {
+    QTemporaryDir dir;
+    const QString path = QString(dir.path() + "/npc.bmp").replace('/', '\\');
+    Surface(48, 48).saveBitmap(path);
+    Surface wider(144, 192);
+    wider.fill(qRgb(200, 10, 10));
+    wider.saveBitmap(path);
+    EXPECT_EQ(Surface::load(path).width(), 144);
+    EXPECT_EQ(GetPixel(Surface::load(path), 143, 191), toColorRef(qRgb(200, 10, 10)));
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList({"npc.bmp"}));
+    try {
+        wider.saveBitmap(QString(dir.path() + "/nofolder/npc.bmp").replace('/', '\\'));
+        FAIL();
+    } catch (const RuntimeError& error) {
+        EXPECT_EQ(error.number(), err::PathNotFound);
+    }
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList({"npc.bmp"}));
 }
