@@ -2,21 +2,23 @@
 
 namespace umbrith {
 
-void StepWalkFrame(WorldState& world) {
-    if (world.WalkDirection == u"U") {
-        if (world.WalkFrame == 2) {
-            world.WalkDirection = QStringLiteral("B");
-            world.WalkFrame = 1;
+void StepAnimationFrame(int& frame, QString& way) {
+    if (way == u"U") {
+        if (frame == 2) {
+            way = QStringLiteral("B");
+            frame = 1;
         } else {
-            ++world.WalkFrame;
+            ++frame;
         }
-    } else if (world.WalkFrame == 0) {
-        world.WalkDirection = QStringLiteral("U");
-        world.WalkFrame = 1;
+    } else if (frame == 0) {
+        way = QStringLiteral("U");
+        frame = 1;
     } else {
-        --world.WalkFrame;
+        --frame;
     }
 }
+
+void StepWalkFrame(WorldState& world) { StepAnimationFrame(world.WalkFrame, world.WalkDirection); }
 
 void TickDayClock(GameRecord& game, WorldState& world) {
     if (world.DayTicks < 10) {

@@ -5,8 +5,11 @@
 
 namespace umbrith {
 
-// One AniTimer tick: the walk frame of every animated figure runs
-// 0, 1, 2, 1, 0, 1, ... A direction other than "U" counts as falling.
+// One tick of an animation: the frame runs 0, 1, 2, 1, 0, 1, ... while `way`
+// says whether it rises ("U") or falls; any other way counts as falling.
+void StepAnimationFrame(int& frame, QString& way);
+
+// One AniTimer tick: the walk frame of every animated figure takes a step.
 void StepWalkFrame(WorldState& world);
 
 // One daynight tick, a minute of play: eleven ticks make a phase of day or
