@@ -7,6 +7,7 @@
 #include "platform/platform.h"
 #include "shell/aboutform.h"
 #include "shell/controls.h"
+#include "shell/npccreator.h"
 #include "shell/popupbox.h"
 #include "shell/rules/intro.h"
 
@@ -47,6 +48,7 @@ Main::Main(GameRecord& game, QWidget* parent) : QMainWindow(parent), game_(game)
         show();
         giveBackgroundFocus();
     });
+    npcCreator_ = std::make_unique<CCMain>(game_, state_.world.textures);
     PopupBox_ = new PopupBox(this);
 
     Clock& clock = platform().clock;
@@ -214,6 +216,12 @@ void Main::FormLoad() {
 }
 
 void Main::giveBackgroundFocus() { background_->setFocus(); }
+
+void Main::ShowNPCCreator() {
+    npcCreator_->show();
+    npcCreator_->raise();
+    npcCreator_->activateWindow();
+}
 
 void Main::StartIntro() {
     lblintromsg_->clear();

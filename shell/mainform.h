@@ -19,6 +19,7 @@ class QTextEdit;
 
 namespace umbrith {
 
+class CCMain;
 class ClickLabel;
 class LevelMaker;
 class PopupBox;
@@ -43,6 +44,9 @@ public:
     void StartMessage(const QString& source, const QString& text);
     void ShowPopup(const QString& text, const QString& title);
     void ShowJournal();
+    // The NPC image creator, which the level editor's tools open.
+    void ShowNPCCreator();
+    const CCMain& npcCreator() const { return *npcCreator_; }
 
     // Realms, the character and its figures (mainrealms.cpp, mainstats.cpp).
     void UpdateRealms();
@@ -130,6 +134,7 @@ private:
     GameRecord& game_;
     MainState state_;
     std::unique_ptr<LevelMaker> levelMaker_;
+    std::unique_ptr<CCMain> npcCreator_;
 
     QMenu* mnuMain_;
     QMenu* mnuHelp_;

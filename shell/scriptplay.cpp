@@ -102,6 +102,8 @@ std::optional<QString> checkLine(const Line& line) {
         return needs(1, "a file");
     if (c == u"screenshot")
         return needs(2, "a form or control's name and a file");
+    if (c == u"show")
+        return needs(1, "a form's name");
     return QStringLiteral("unknown command \"%1\"").arg(c);
 }
 
@@ -229,6 +231,8 @@ private:
             scripted_.advance(line.args[0].toInt());
         else if (c == u"dump")
             dump(line.rest);
+        else if (c == u"show")
+            show(line.args[0]);
         else
             screenshot(line.args[0], line.rest.section(u' ', 1));
         QApplication::processEvents();
@@ -317,6 +321,19 @@ private:
         if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate))
             throw Failure{QStringLiteral("cannot write \"%1\"").arg(file)};
         out.write(QJsonDocument(stateJson(*main_, scripted_)).toJson());
+    }
+
+    // A form that no menu opens yet (the NPC creator, before the level
+    // editor's Tools menu) is shown as its menu would show it.
+    void show(const QString& name) {
+        for (QWidget* form : QApplication::topLevelWidgets())
+            if (form->objectName() == name) {
+                form->show();
+                form->raise();
+                form->activateWindow();
+                return;
+            }
+        throw Failure{QStringLiteral("no form named \"%1\"").arg(name)};
     }
 
     void screenshot(const QString& name, const QString& file) {

@@ -4,6 +4,7 @@
 #include "core/realm.h"
 #include "platform/scripted/scriptedplatform.h"
 #include "shell/mainform.h"
+#include "shell/npccreator.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -117,6 +118,20 @@ void insertWorld(QJsonObject& json, const Main& main) {
     json.insert("daynight", timers.daynight->enabled());
 }
 
+// The NPC image creator's fields, whether or not it is on show.
+QJsonObject npcCreatorJson(const CCMain& form) {
+    const NPCImageState& s = form.state();
+    QJsonArray paths;
+    for (const QString& path : s.AreaPaths)
+        paths.append(path);
+    return {{"AreaPaths", paths},
+            {"ChosenPicture", s.ChosenPicture},
+            {"PreviewDirection", s.PreviewDirection},
+            {"PreviewFrame", s.PreviewFrame},
+            {"PreviewWay", s.PreviewWay},
+            {"AniTimer", form.animating()}};
+}
+
 } // namespace
 
 QObject* findNamed(const QString& name) {
@@ -145,6 +160,7 @@ QJsonObject stateJson(const Main& main, const ScriptedPlatform& scripted) {
 
     const MainState& state = main.state();
     insertWorld(json, main);
+    json.insert("CCMain", npcCreatorJson(main.npcCreator()));
     json.insert("CurrentMusic", state.CurrentMusic);
     json.insert("GameLoaded", state.GameLoaded);
     json.insert("DisplayModeChanged", state.DisplayModeChanged);

@@ -1,3 +1,4 @@
+#include "tests/support/dollparts.h"
 #include "tests/support/worldmaps.h"
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QSet>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -234,6 +236,62 @@ TEST_F(ScriptRunTest, aMakerCreatesARealmInTheEditorAndFindsItInTheList) {
     EXPECT_EQ(controls["lstRealms"].toArray(), QJsonArray({"Fenwick"}));
     EXPECT_EQ(controls["txtDescription"].toString(), "Marsh and mist.");
     EXPECT_TRUE(QFile::exists(dir.filePath("root/realms/fen.ubr")));
+}
+
+// A maker dresses an NPC in a helmet, mail and a sword, watches it walk
+// left, saves it, gives it to an NPC of a map, and sees it walk in play.
+TEST_F(ScriptRunTest, anNPCDressedInTheCreatorWalksOnTheMapWithTheSameFrames) {
+    writeTestTileset();
+    using umbrith::dollparts::partSheet;
+    using umbrith::dollparts::savePicture;
+    umbrith::dollparts::writeEmptyParts();
+    QDir(dir.path()).mkpath("root/images/npcs");
+    auto helm = [](int d, int f) { return qRgb(200, 60 + 40 * f, 10 * d); };
+    auto mail = [](int d, int f) { return qRgb(90 + 40 * f, 90, 100 + 30 * d); };
+    auto sword = [](int d, int f) { return qRgb(230, 230 - 30 * f, 120 + 20 * d); };
+    savePicture(partSheet(helm, QRect(6, 0, 12, 10)), "\\images\\heads\\helm.bmp");
+    savePicture(partSheet(mail, QRect(4, 10, 16, 24)), "\\images\\bodies\\mail.bmp");
+    savePicture(partSheet(sword, QRect(20, 12, 4, 28)), "\\images\\weapons\\sword.bmp");
+    umbrith::testmaps::TestMap yard(18, 17);
+    QStringList knight = umbrith::testmaps::npcRecord("Knight", "5;5", "\\images\\npcs\\knight.bmp").split(':');
+    knight[6] = "2";  // facing left
+    knight[12] = "1"; // animated
+    yard.file.npcs = QString(u'ƒ') + knight.join(':');
+    yard.write("\\maps\\yard.ubm");
+
+    QString script = "random 0.1\nshow CCMain\n";
+    for (const auto& [row, picture] : {std::pair{"Head", "\\images\\heads\\helm.bmp"},
+                                       std::pair{"Body", "\\images\\bodies\\mail.bmp"},
+                                       std::pair{"Weapon", "\\images\\weapons\\sword.bmp"}})
+        script += QString("select lstAreas %1\nanswer-file %2\nclick cmdBrowseChange\nclick cmdUpdate\n").arg(row, picture);
+    script += "click cmdDir(2)\nclick chkAnimate\nwait 400\ndump " + dumpPath("creator.json") + "\n";
+    script += "answer-file \\images\\npcs\\knight.bmp\nclick mnuFileSave\n";
+    script += "answer-file \\maps\\yard.ubm\nclick mnuMainPlayCustom\nwait 200\n";
+    for (int i = 0; i < 4; ++i)
+        script += QString("screenshot background %1\ndump %2\nwait 200\n").arg(dumpPath(QString("map%1.png").arg(i)), dumpPath(QString("map%1.json").arg(i)));
+    ProgramRun run = play(script);
+    ASSERT_EQ(run.exitCode, 0) << run.errors.toStdString();
+
+    const QJsonObject creator = dump("creator.json")["CCMain"].toObject();
+    EXPECT_EQ(creator["AreaPaths"].toArray()[0].toString(), "\\images\\heads\\helm.bmp");
+    EXPECT_EQ(creator["AreaPaths"].toArray()[4].toString(), "\\images\\weapons\\sword.bmp");
+    EXPECT_EQ(creator["PreviewDirection"].toInt(), 2);
+    EXPECT_EQ(creator["PreviewFrame"].toInt(), 2);
+    EXPECT_TRUE(creator["AniTimer"].toBool());
+    EXPECT_TRUE(QFile::exists(dir.filePath("root/images/npcs/knight.bmp")));
+
+    QSet<int> framesSeen;
+    const QPoint at(5 * 24, 5 * 24 - 24); // the figure's top left, the map not scrolled
+    for (int i = 0; i < 4; ++i) {
+        const int frame = dump(QString("map%1.json").arg(i))["WalkFrame"].toInt();
+        framesSeen.insert(frame);
+        const QImage shot = QImage(dumpPath(QString("map%1.png").arg(i))).convertToFormat(QImage::Format_RGB32);
+        EXPECT_EQ(shot.pixel(at + QPoint(8, 4)), helm(2, frame)) << frame;
+        EXPECT_EQ(shot.pixel(at + QPoint(8, 20)), mail(2, frame)) << frame;
+        EXPECT_EQ(shot.pixel(at + QPoint(21, 30)), sword(2, frame)) << frame;
+        EXPECT_EQ(shot.pixel(at + QPoint(1, 44)), umbrith::testmaps::tileColor(0, 0)) << frame;
+    }
+    EXPECT_EQ(framesSeen, QSet<int>({0, 1, 2}));
 }
 
 } // namespace
