@@ -1,7 +1,11 @@
 #include "shell/aboutform.h"
 
+#include "core/misc.h"
+#include "platform/error.h"
+#include "platform/files.h"
 #include "shell/controls.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -20,57 +24,93 @@ QLabel* label(const char* name, const QString& text, QWidget* parent) {
     return result;
 }
 
-struct Topic {
-    const char* title;
-    const char* text;
+// The guide's topics in the order a new maker meets them; each is the file
+// of that name in the program folder's "help" folder.
+const char* const topicTitles[] = {
+    "Getting Started",
+    "Folders and Files",
+    "Making a Realm",
+    "Maps, Tilesets and Passability",
+    "Warps, Messages and Music",
+    "NPCs and Their Movement",
+    "Ground Piles",
+    "Reading and Writing Codes",
+    "Message Codes",
+    "Events",
+    "Event Actions",
+    "Prompts and Custom Answer",
+    "Shops and Prices",
+    "Items, Equipment and Bonuses",
+    "Skills",
+    "Enemies and Battles",
+    "The NPC Image Creator",
+    "Rules and Limitations",
+    "Keys of the Game",
+    "Keys of the Editor",
 };
 
-const Topic topics[] = {
-    {"Playing", "Use the arrow keys to walk. Space moves a message on and M closes it. Escape hides or shows the menus.\n\n"
-                "The letters in brackets are shortcuts: (L)oad, (N)ew, (O)ptions, E(x)it, and on the title screen "
-                "(C)reate and (P)lay custom levels."},
-    {"Messages", "A message may hold codes. \"#(name)\" shows the value of the code \"&name\", such as #(Player Name) "
-                 "or a variable's name. An \"&\" in the text ends the page there."},
-    {"Journal", "Each journal entry is \"title;text;code\", entries separated by \"£\". An entry is completed when "
-                "its code gives 1 or \"true\"."},
-    {"Making realms", "Create Custom Levels opens the level editor. Play Custom Levels tries one map with a "
-                      "throw-away character called Tester."},
-};
+QList<HelpTopic> loadedTopics;
+
+QString topicText(const QString& file) {
+    try {
+        return readTextFile(AppPath() + file).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    } catch (const RuntimeError& error) {
+        return QStringLiteral("The help file %1 could not be read (%2). Put it back into the program folder to "
+                              "read this topic.")
+            .arg(file, error.text());
+    }
+}
 
 } // namespace
 
 About::About(QWidget* owner) : QWidget(owner, Qt::Dialog) {
     setObjectName(QStringLiteral("About"));
     setWindowTitle(QStringLiteral("About 'Umbrith'"));
+    setAttribute(Qt::WA_DeleteOnClose);
     setStyleSheet(look::formStyle());
-    setFixedSize(320, 200);
+    setFixedSize(360, 250);
     auto* layout = new QVBoxLayout(this);
     QLabel* title = label("lblTitle", QStringLiteral("Umbrith"), this);
     title->setStyleSheet(QStringLiteral("font-size: 30px; font-weight: bold; color: %1;").arg(QLatin1String(look::gold)));
     layout->addWidget(title);
     layout->addWidget(label("lblVersion", QStringLiteral("Version %1").arg(QStringLiteral(UMBRITH_VERSION)), this));
     layout->addWidget(label("lblDescription", QStringLiteral("A tile-based role-playing game and the tools to make its realms."), this));
+    QLabel* folder = label("lblFolder", QStringLiteral("Program folder:\n%1").arg(QDir::toNativeSeparators(nativePath(AppPath()))), this);
+    folder->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    layout->addWidget(folder);
     auto* ok = new QPushButton(QStringLiteral("OK"), this);
     ok->setObjectName(QStringLiteral("cmdOK"));
     connect(ok, &QPushButton::clicked, this, &QWidget::close);
     layout->addWidget(ok, 0, Qt::AlignCenter);
 }
 
+void LoadHelpTopics() {
+    loadedTopics.clear();
+    for (const char* title : topicTitles) {
+        const QString name = QString::fromUtf8(title);
+        loadedTopics.append({name, topicText(QStringLiteral("\\help\\%1.txt").arg(name))});
+    }
+}
+
+const QList<HelpTopic>& HelpTopics() { return loadedTopics; }
+
 Help::Help(QWidget* owner) : QWidget(owner, Qt::Window) {
     setObjectName(QStringLiteral("Help"));
     setWindowTitle(QStringLiteral("Umbrith Help"));
+    setAttribute(Qt::WA_DeleteOnClose);
     setStyleSheet(look::formStyle());
-    resize(560, 380);
+    resize(760, 520);
     auto* topicList = new QListWidget(this);
     topicList->setObjectName(QStringLiteral("lstTopics"));
-    topicList->setFixedWidth(160);
+    topicList->setFixedWidth(220);
     auto* text = new QTextEdit(this);
     text->setObjectName(QStringLiteral("txtTopic"));
     text->setReadOnly(true);
-    for (const Topic& topic : topics)
-        topicList->addItem(QString::fromUtf8(topic.title));
-    connect(topicList, &QListWidget::currentRowChanged, text, [text](int row) {
-        text->setPlainText(row >= 0 ? QString::fromUtf8(topics[row].text) : QString());
+    const QList<HelpTopic> topics = HelpTopics();
+    for (const HelpTopic& topic : topics)
+        topicList->addItem(topic.title);
+    connect(topicList, &QListWidget::currentRowChanged, text, [text, topics](int row) {
+        text->setPlainText(row >= 0 && row < topics.size() ? topics[row].text : QString());
     });
     topicList->setCurrentRow(0);
     auto* layout = new QHBoxLayout(this);

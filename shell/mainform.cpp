@@ -208,6 +208,7 @@ void Main::buildOptions() {
 
 void Main::FormLoad() {
     ubmid().onDone = [this](int status) { musicDone(status); };
+    LoadHelpTopics();
     EnterGameDisplay(state_);
     state_.introIndex = 1;
     StartIntro();
