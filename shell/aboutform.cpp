@@ -99,7 +99,7 @@ Help::Help(QWidget* owner) : QWidget(owner, Qt::Window) {
     setWindowTitle(QStringLiteral("Umbrith Help"));
     setAttribute(Qt::WA_DeleteOnClose);
     setStyleSheet(look::formStyle());
-    resize(760, 520);
+    resize(880, 560);
     auto* topicList = new QListWidget(this);
     topicList->setObjectName(QStringLiteral("lstTopics"));
     topicList->setFixedWidth(220);

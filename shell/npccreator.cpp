@@ -55,7 +55,7 @@ CCMain::CCMain(GameRecord& game, Textures& textures, QWidget* parent)
     AniTimer_ = platform().clock.createTimer(QStringLiteral("AniTimer"), 200, [this] { aniTimerTick(); });
     buildMenus();
     buildWorkArea();
-    setFixedSize(470, 330);
+    setFixedSize(470, 344);
 }
 
 CCMain::~CCMain() = default;
@@ -86,7 +86,7 @@ void CCMain::buildWorkArea() {
 
     picBG_ = new QFrame(area);
     picBG_->setObjectName(QStringLiteral("picBG"));
-    picBG_->setGeometry(0, 0, 470, 306);
+    picBG_->setGeometry(0, 0, 470, 318);
 
     caption(QStringLiteral("Parts:"), QRect(16, 10, 140, 20), picBG_);
     lstAreas_ = new QListWidget(picBG_);
@@ -97,32 +97,32 @@ void CCMain::buildWorkArea() {
     connect(lstAreas_, &QListWidget::currentRowChanged, this, &CCMain::lstAreas_Click);
     connect(lstAreas_, &QListWidget::itemClicked, this, &CCMain::lstAreas_Click);
 
-    caption(QStringLiteral("Currently:"), QRect(16, 172, 80, 20), picBG_);
-    caption(QStringLiteral("Change to:"), QRect(16, 198, 80, 20), picBG_);
+    caption(QStringLiteral("Currently:"), QRect(16, 224, 80, 20), picBG_);
+    caption(QStringLiteral("Change to:"), QRect(16, 250, 80, 20), picBG_);
     for (int i = 0; i < 2; ++i) {
         lblInfo_[i] = new QLabel(picBG_);
         lblInfo_[i]->setObjectName(arrayName("lblInfo", i));
-        lblInfo_[i]->setGeometry(96, 172 + 26 * i, 236, 20);
+        lblInfo_[i]->setGeometry(100, 224 + 26 * i, 354, 20);
     }
-    connect(button(QStringLiteral("cmdBrowseChange"), QStringLiteral("Browse"), QRect(16, 232, 100, 30), picBG_),
+    connect(button(QStringLiteral("cmdBrowseChange"), QStringLiteral("Browse"), QRect(16, 280, 100, 30), picBG_),
             &QPushButton::clicked, this, &CCMain::cmdBrowseChange_Click);
-    connect(button(QStringLiteral("cmdUpdate"), QStringLiteral("Update"), QRect(126, 232, 100, 30), picBG_),
+    connect(button(QStringLiteral("cmdUpdate"), QStringLiteral("Update"), QRect(126, 280, 100, 30), picBG_),
             &QPushButton::clicked, this, &CCMain::cmdUpdate_Click);
 
     picPreview_ = new QLabel(picBG_);
     picPreview_->setObjectName(QStringLiteral("picPreview"));
-    picPreview_->setGeometry(240, 14, 24 * kPreviewScale + 4, 48 * kPreviewScale + 4);
+    picPreview_->setGeometry(200, 14, 24 * kPreviewScale + 4, 48 * kPreviewScale + 4);
     picPreview_->setAlignment(Qt::AlignCenter);
     picPreview_->setStyleSheet(QStringLiteral("border: 2px solid #8a6d33;"));
     for (int i = 0; i < 4; ++i)
-        connect(button(arrayName("cmdDir", i), QLatin1String(directionCaptions[i]), QRect(360, 14 + 36 * i, 90, 30), picBG_),
+        connect(button(arrayName("cmdDir", i), QLatin1String(directionCaptions[i]), QRect(340, 14 + 36 * i, 100, 30), picBG_),
                 &QPushButton::clicked, this, [this, i] {
                     state_.PreviewDirection = i;
                     RedrawCharacter();
                 });
     chkAnimate_ = new QCheckBox(QStringLiteral("Animate"), picBG_);
     chkAnimate_->setObjectName(QStringLiteral("chkAnimate"));
-    chkAnimate_->setGeometry(360, 166, 100, 24);
+    chkAnimate_->setGeometry(340, 160, 100, 24);
     connect(chkAnimate_, &QCheckBox::clicked, this, &CCMain::chkAnimate_Click);
 }
 
