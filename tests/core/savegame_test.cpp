@@ -80,8 +80,9 @@ TEST(SaveGameTest, aSaveReadBackRestoresEveryFieldAndTheExtras) {
                                     "BattleActive", "LevelUpActive", "CharacterCreationActive", "ScreenPanelOpen",
                                     "PopupOpen"};
     for (const GameField& field : gameFields()) {
-        if (!notSaved.contains(field.name))
+        if (!notSaved.contains(field.name)) {
             EXPECT_EQ((loaded.*field.member).text(), (saved.*field.member).text()) << field.name;
+        }
     }
     EXPECT_EQ(extras.heldEntries, "£1|2");
     EXPECT_EQ(extras.position, "4;7");
