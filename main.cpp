@@ -3,6 +3,7 @@
 #include "platform/real/realplatform.h"
 #include "core/gamerecord.h"
 #include "shell/mainform.h"
+#include "shell/rules/commandline.h"
 #include "shell/scriptplay.h"
 
 #include <QApplication>
@@ -10,7 +11,6 @@
 #include <QFileInfo>
 #include <QTemporaryFile>
 #include <cstdio>
-#include <cstring>
 
 namespace {
 
@@ -37,39 +37,34 @@ QString programFolder(const char* argv0) {
     return QFileInfo(path).absolutePath();
 }
 
-QString optionValue(int argc, char** argv, const char* option) {
-    for (int i = 1; i + 1 < argc; ++i)
-        if (std::strcmp(argv[i], option) == 0)
-            return QString::fromLocal8Bit(argv[i + 1]);
-    return QString();
-}
-
-bool hasFlag(int argc, char** argv, const char* flag) {
-    for (int i = 1; i < argc; ++i)
-        if (std::strcmp(argv[i], flag) == 0)
-            return true;
-    return false;
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
-    // `--dump FILE` prints a data file's items and ends; no window opens.
+    QStringList arguments;
     for (int i = 1; i < argc; ++i)
-        if (std::strcmp(argv[i], "--dump") == 0) {
-            if (i + 1 >= argc) {
-                std::fprintf(stderr, "usage: umbrith --dump FILE\n");
-                return 2;
-            }
-            return umbrith::DumpDataFile(QString::fromLocal8Bit(argv[i + 1]));
-        }
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const umbrith::CommandLine line = umbrith::ParseCommandLine(arguments);
+    if (!line.refusal.isEmpty()) {
+        std::fprintf(stderr, "umbrith: %s\n%s", line.refusal.toLocal8Bit().constData(),
+                     umbrith::UsageText().toLocal8Bit().constData());
+        return 2;
+    }
+    // These answer at once; no window opens.
+    if (line.help) {
+        std::fputs(umbrith::UsageText().toLocal8Bit().constData(), stdout);
+        return 0;
+    }
+    if (line.version) {
+        std::printf("Umbrith %s\n", UMBRITH_VERSION);
+        return 0;
+    }
+    if (!line.dump.isEmpty())
+        return umbrith::DumpDataFile(line.dump);
 
-    if (hasFlag(argc, argv, "--offscreen") || (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")))
+    if (line.offscreen || (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     // The folder is checked before Qt starts, so a refusal is the only thing printed.
-    QString root = optionValue(argc, argv, "--root");
-    if (root.isEmpty())
-        root = programFolder(argv[0]);
+    QString root = line.root.isEmpty() ? programFolder(argv[0]) : line.root;
     root = QFileInfo(root).absoluteFilePath();
     QString problem;
     if (!usableRoot(root, problem)) {
@@ -79,11 +74,10 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     umbrith::setAppPath(root);
 
-    const QString script = optionValue(argc, argv, "--script");
-    if (!script.isEmpty())
-        return umbrith::runScript(script);
+    if (!line.script.isEmpty())
+        return umbrith::runScript(line.script);
 
-    umbrith::RealPlatform realPlatform;
+    umbrith::RealPlatform realPlatform(line.soundFont.isEmpty() ? umbrith::DefaultSoundFont() : line.soundFont);
     realPlatform.install();
     umbrith::GameRecord game;
     umbrith::Main mainForm(game);

@@ -43,6 +43,10 @@ void acceptStatNumbers(QLineEdit* box) {
     box->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("-?\\d{0,4}")), box));
 }
 
+void acceptStatDecimals(QLineEdit* box) {
+    box->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("-?\\d{0,4}(\\.\\d{0,4})?")), box));
+}
+
 QString arrayName(const char* name, int index) { return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index); }
 
 namespace look {

@@ -32,6 +32,9 @@ QLabel* heading(const QString& text, QWidget* parent);
 
 // A box for a statistic: whole numbers, negative too, of four digits at most.
 void acceptStatNumbers(QLineEdit* box);
+// A box for a statistic the realm stores as a double: as above, with a
+// decimal part.
+void acceptStatDecimals(QLineEdit* box);
 
 // A member of a control array carries its index in its name: "lblshowatstart(5)".
 QString arrayName(const char* name, int index);

@@ -6,6 +6,7 @@
 #include "shell/controls.h"
 #include "shell/mainform.h"
 #include "shell/updatecharacter.h"
+#include "world/textures.h"
 
 #include <QAction>
 #include <QFrame>
@@ -154,6 +155,8 @@ void Main::UpdateStats() {
     state_.ShopLevelFactor = ShopLevelFactor(game_.PlayerLevel);
     if (auto* gold = findChild<QLabel*>(QStringLiteral("lblyourgold")))
         gold->setText(u'$' + game_.PlayerGold.text());
+    // Every change of equipment ends here, so the paper doll follows it.
+    UpdateCharacterPic(state_.world.textures);
 
     if (!introframe_->isVisible()) {
         const Value* shown[] = {&game_.PlayerName, &game_.PlayerRace, &game_.PlayerGold};

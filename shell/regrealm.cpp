@@ -131,7 +131,7 @@ void RegRealm::buildStats() {
         const int y = 206 + 30 * i;
         caption(QString::fromUtf8(StatCaptions[i]), QRect(340, y, 120, 24), this);
         QLineEdit* stat = box(arrayName("txtStats", i), QRect(470, y, 80, 24), this);
-        acceptStatNumbers(stat);
+        acceptStatDecimals(stat);
         txtStats_.append(stat);
     }
     caption(QStringLiteral("Points at Start:"), QRect(20, 418, 130, 24), this);

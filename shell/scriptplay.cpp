@@ -17,6 +17,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTextEdit>
+#include <QValidator>
 #include <QWidget>
 #include <cstdio>
 #include <cstdlib>
@@ -277,6 +278,11 @@ private:
         auto* widget = control<QWidget>(name, "a text box");
         usable(widget, name);
         if (auto* line = qobject_cast<QLineEdit*>(widget)) {
+            // A script types only what a player could type.
+            QString typed = text;
+            int at = 0;
+            if (line->validator() && line->validator()->validate(typed, at) == QValidator::Invalid)
+                throw Failure{QStringLiteral("\"%1\" does not take \"%2\"").arg(name, text)};
             line->setText(text);
             emit line->textEdited(text);
         } else if (auto* edit = qobject_cast<QTextEdit*>(widget)) {

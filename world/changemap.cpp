@@ -133,7 +133,7 @@ void LoadMapNPCs(WorldState& world, const QString& npcs) {
 void LoadTileEvents(WorldState& world, const QString& events) {
     for (const QString& event : NonEmptyParts(events, EventSeparator)) {
         const TextPosition place = EventPlaceCell(FieldAt(event.split(EventFieldSeparator), 1));
-        QString& cell = world.TileEvents.cell(toInt32(Value(place.x)), toInt32(Value(place.y)));
+        QString& cell = world.TileEvents.cell(place.x, place.y);
         cell += EventSeparator + event;
     }
 }
@@ -225,7 +225,7 @@ void LoadScreenWarps(WorldState& world, const QString& screenWarps) {
 void LoadSpecials(WorldState& world, const QString& specials) {
     for (const MapSpecial& special : SplitSpecials(specials)) {
         const QStringList place = FieldAt(special.fields, 0).split(u';');
-        const int x = CellIndex(place[0]), y = CellIndex(FieldAt(place, 1));
+        const double x = Val(place[0]), y = Val(FieldAt(place, 1));
         if (special.kind == u"1") {
             world.MessageLocation.cell(x, y) = special.fields[MessageLocationField];
             world.MessageSource.cell(x, y) = FieldAt(special.fields, MessageSourceField);

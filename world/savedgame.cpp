@@ -62,13 +62,19 @@ SaveExtras ApplySavedGame(GameRecord& game, WorldState& world, const SavedParts&
     world.PlayerTwipX = kTileUnits * toDouble(Value(place[0]));
     world.PlayerTwipY = kTileUnits * toDouble(Value(place[1]));
 
+    // The four worn pieces always load, and one whose picture is gone fails
+    // the load; shield and weapon load only when named, else the former
+    // game's pictures stay.
     Textures& t = world.textures;
-    const Surface shield = t.grossshield, weapon = t.grossweapon;
-    LoadPaperDoll(t, game);
-    if (game.PlayerShieldPicturePath.text().isEmpty())
-        t.grossshield = shield;
-    if (game.PlayerWeaponPicturePath.text().isEmpty())
-        t.grossweapon = weapon;
+    const auto load = [](const Value& path) { return Surface::load(AppPath() + path.text()); };
+    t.grossbody = load(game.PlayerArmourPicturePath);
+    t.grossboots = load(game.PlayerBootsPicturePath);
+    t.grosshead = load(game.PlayerHelmetPicturePath);
+    t.grossgloves = load(game.PlayerGlovesPicturePath);
+    if (!game.PlayerShieldPicturePath.text().isEmpty())
+        t.grossshield = load(game.PlayerShieldPicturePath);
+    if (!game.PlayerWeaponPicturePath.text().isEmpty())
+        t.grossweapon = load(game.PlayerWeaponPicturePath);
     UpdateCharacterPic(t);
 
     game.Variables = parts.variables;

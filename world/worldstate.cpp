@@ -3,23 +3,24 @@
 #include "platform/error.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace umbrith {
 
-int MapTable::key(int x, int y) const {
-    const int sx = x + offset_, sy = y + offset_;
-    if (sx < 0 || sy < 0 || sx >= storage_ || sy >= storage_)
+int MapTable::key(double x, double y) const {
+    const double sx = std::nearbyint(x + offset_), sy = std::nearbyint(y + offset_);
+    if (!(sx >= 0 && sy >= 0 && sx < storage_ && sy < storage_))
         err::raise(err::SubscriptOutOfRange);
-    return sy * storage_ + sx;
+    return int(sy) * storage_ + int(sx);
 }
 
-const QString& MapTable::at(int x, int y) const {
+const QString& MapTable::at(double x, double y) const {
     static const QString empty;
     const auto found = cells_.constFind(key(x, y));
     return found == cells_.constEnd() ? empty : *found;
 }
 
-QString& MapTable::cell(int x, int y) { return cells_[key(x, y)]; }
+QString& MapTable::cell(double x, double y) { return cells_[key(x, y)]; }
 
 QList<MapTable::Cell> MapTable::cells() const {
     QList<int> keys = cells_.keys();
@@ -48,10 +49,6 @@ void ResetMap(WorldState& world) {
     world.NPCPictureCount = 0;
 }
 
-double PassValue(const QString& cell) {
-    bool number = false;
-    const double value = cell.trimmed().toDouble(&number);
-    return number ? value : 0;
-}
+double PassValue(const QString& cell) { return Val(cell); }
 
 } // namespace umbrith

@@ -19,9 +19,11 @@ public:
     // number of slots a side.
     MapTable(int offset, int storage) : offset_(offset), storage_(storage) {}
 
-    // The cell at location (x, y); "" when never written.
-    const QString& at(int x, int y) const;
-    QString& cell(int x, int y);
+    // The cell at location (x, y); "" when never written. A fractional
+    // location takes its slot by adding the offset first and then rounding
+    // half to even, so "2.5" lands in slot 4 of a table offset by 1.
+    const QString& at(double x, double y) const;
+    QString& cell(double x, double y);
     void clear() { cells_.clear(); }
     // The cells written and not empty, row by row.
     struct Cell {
@@ -32,7 +34,7 @@ public:
     bool isEmpty() const { return cells_.isEmpty(); }
 
 private:
-    int key(int x, int y) const;
+    int key(double x, double y) const;
 
     int offset_;
     int storage_;
@@ -124,8 +126,9 @@ int CellIndex(const QString& text);
 // pictures unloaded but for the first slot.
 void ResetMap(WorldState& world);
 
-// The numbers of a cell's passability: 1 passable, 2 impassable with a bump,
-// anything else (an empty or unreadable cell too) 0, which blocks silently.
+// The number of a cell's passability, by numeric-prefix parse as every number
+// inside a map's items ("1a" is 1): 1 passable, 2 impassable with a bump,
+// anything else blocks silently.
 double PassValue(const QString& cell);
 
 } // namespace umbrith

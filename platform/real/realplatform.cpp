@@ -73,6 +73,7 @@ public:
 } // namespace
 
 struct RealPlatform::Parts {
+    explicit Parts(const QString& soundFont) : audio(soundFont) {}
     QtDialogs dialogs;
     RealClock clock;
     RealRandom random;
@@ -81,7 +82,7 @@ struct RealPlatform::Parts {
     Platform platform{dialogs, clock, random, audio, display};
 };
 
-RealPlatform::RealPlatform() : parts_(std::make_unique<Parts>()) {}
+RealPlatform::RealPlatform(const QString& soundFont) : parts_(std::make_unique<Parts>(soundFont)) {}
 
 RealPlatform::~RealPlatform() {
     if (installedPlatform() == &parts_->platform)

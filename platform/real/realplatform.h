@@ -10,7 +10,8 @@ namespace umbrith {
 // sound effects and music (MIDI through FluidSynth), a clock-seeded generator.
 class RealPlatform {
 public:
-    RealPlatform();
+    // Music plays through the General MIDI soundfont at `soundFont`.
+    explicit RealPlatform(const QString& soundFont);
     ~RealPlatform();
     RealPlatform(const RealPlatform&) = delete;
     RealPlatform& operator=(const RealPlatform&) = delete;

@@ -4,15 +4,15 @@
 #include "platform/files.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QMetaObject>
 #include <SDL.h>
 #include <SDL_mixer.h>
+#include <cstdio>
 
 namespace umbrith {
 
 namespace {
-
-constexpr const char* kSoundFont = "/usr/share/sounds/sf2/TimGM6mb.sf2";
 
 // SDL_mixer plays one piece at a time; the device that started it hears its end.
 SdlAudio* liveAudio = nullptr;
@@ -79,15 +79,23 @@ private:
     int generation_ = 0;
 };
 
-SdlAudio::SdlAudio() {
+SdlAudio::SdlAudio(const QString& soundFont) {
     if (SDL_Init(SDL_INIT_AUDIO) != 0)
         return;
     Mix_Init(MIX_INIT_MID);
-    Mix_SetSoundFonts(kSoundFont);
+    // Without its soundfont FluidSynth plays nothing: say so once and keep the
+    // game running with silent music.
+    const bool haveSoundFont = QFileInfo(soundFont).isFile();
+    if (haveSoundFont)
+        Mix_SetSoundFonts(soundFont.toLocal8Bit().constData());
+    else
+        std::fprintf(stderr, "umbrith: the soundfont \"%s\" is missing; music stays silent.\n",
+                     soundFont.toLocal8Bit().constData());
     if (Mix_OpenAudio(44100, MIX_DEFAULT_FORMAT, 2, 1024) != 0)
         return;
     Mix_AllocateChannels(16);
     ready_ = true;
+    musicReady_ = haveSoundFont;
     liveAudio = this;
     Mix_HookMusicFinished([] {
         // SDL's audio thread: hand the end over to the main thread.
@@ -132,7 +140,7 @@ void SdlAudio::playSound(const QString& path) {
 Sequencer& SdlAudio::sequencer(const QString& name) {
     auto& device = devices_[name];
     if (!device)
-        device = std::make_unique<Device>(ready_);
+        device = std::make_unique<Device>(musicReady_);
     return *device;
 }
 

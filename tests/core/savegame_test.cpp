@@ -79,9 +79,11 @@ TEST(SaveGameTest, aSaveReadBackRestoresEveryFieldAndTheExtras) {
                                     "TempAttackBonus", "TempDefenceBonus", "CurrentLevel", "GameRunning",
                                     "BattleActive", "LevelUpActive", "CharacterCreationActive", "ScreenPanelOpen",
                                     "PopupOpen"};
-    for (const GameField& field : gameFields())
-        if (!notSaved.contains(field.name))
+    for (const GameField& field : gameFields()) {
+        if (!notSaved.contains(field.name)) {
             EXPECT_EQ((loaded.*field.member).text(), (saved.*field.member).text()) << field.name;
+        }
+    }
     EXPECT_EQ(extras.heldEntries, "£1|2");
     EXPECT_EQ(extras.position, "4;7");
     EXPECT_EQ(extras.mapPath, "\\maps\\town.ubm");

@@ -90,7 +90,7 @@ TEST(ScriptedAudioTest, devicesLogCommandsAndReportTheEndOfAPiece) {
     music.onDone = [&](int status) { done << status; };
     music.fileName = "/nonexistent/intro.mid";
     EXPECT_THROW(music.command("Open"), RuntimeError);
-    music.fileName = QString(__FILE__);
+    music.fileName = QStringLiteral(UMBRITH_TEST_DATA "/core/realms/Alpha.ubr");
     music.command("Open");
     music.command("Play");
     scripted.finishPiece("ubmid");

@@ -206,6 +206,13 @@ TEST_F(NewGameTest, aMakerCreatesARealmAndFindsItInTheList) {
     click("optBD(1)");
     for (int i = 0; i < 7; ++i)
         field(arrayName("txtStats", i))->setText(QString::number(10 + i));
+    // Base statistics are doubles: a decimal point can be typed.
+    field("txtStats(0)")->clear();
+    for (const QChar c : QStringLiteral("10.5x")) {
+        QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(field("txtStats(0)"), &key);
+    }
+    EXPECT_EQ(field("txtStats(0)")->text(), "10.5");
     click("optBD(0)");
     EXPECT_EQ(field("txtStats(6)")->text(), "6");
     field("txtStatStart")->setText("5");
@@ -217,7 +224,7 @@ TEST_F(NewGameTest, aMakerCreatesARealmAndFindsItInTheList) {
     click("cmdDone");
     EXPECT_EQ(scripted.boxes.last().text, "Realm Created!");
     const Realm written = ParseRealm(ReadRealmFile(AppPath() + "\\realms\\fen.ubr"));
-    EXPECT_EQ(written.statistics, QString::fromUtf8(":10:11:12:13:14:15:16£:0:1:2:3:4:5:6"));
+    EXPECT_EQ(written.statistics, QString::fromUtf8(":10.5:11:12:13:14:15:16£:0:1:2:3:4:5:6"));
     EXPECT_EQ(written.races, ":Elf");
     EXPECT_TRUE(written.listFiles.endsWith(":\\maps\\fen.ubm"));
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -43,6 +43,18 @@ TEST_F(PlayerInfoTest, pOpensTheStatsPanelWithEveryFigureAndCClosesIt) {
     EXPECT_FALSE(isTrue(game.ScreenPanelOpen));
 }
 
+TEST_F(PlayerInfoTest, theStatsUpdateRedrawsThePaperDollFromTheSheetsInForce) {
+    startRealmGame();
+    testmaps::writeNpcSheet("\\images\\heads\\red.bmp", qRgb(255, 0, 0));
+    Textures& textures = const_cast<WorldState&>(main->state().world).textures;
+    textures.grosshead = Surface::load(AppPath() + "\\images\\heads\\red.bmp");
+    for (int direction = 0; direction < 4; ++direction)
+        EXPECT_NE(GetPixel(textures.picdirorig[direction], 5, 30), toColorRef(qRgb(255, 0, 0)));
+    main->UpdateStats();
+    for (int direction = 0; direction < 4; ++direction)
+        EXPECT_EQ(GetPixel(textures.picdirorig[direction], 5, 30), toColorRef(qRgb(255, 0, 0))) << direction;
+}
+
 TEST_F(PlayerInfoTest, aPopupOverTheStatsPanelLeavesTheScreenCoveredWhenClosed) {
     startRealmGame();
     press(Qt::Key_P);

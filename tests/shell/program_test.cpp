@@ -33,6 +33,29 @@ ProgramRun runProgram(const QStringList& arguments) {
 
 } // namespace
 
+TEST(ProgramTest, helpAndVersionAnswerWithoutAWindowAndAnUnknownOptionIsRefusedWithTheUsage) {
+    QProcess process;
+    process.start(UMBRITH_EXECUTABLE, {"--help"});
+    process.waitForFinished(30000);
+    EXPECT_EQ(process.exitCode(), 0);
+    const QString help = QString::fromLocal8Bit(process.readAllStandardOutput());
+    for (const char* option : {"--root DIR", "--script FILE", "--dump FILE", "--soundfont FILE", "--offscreen", "--help",
+                               "--version"})
+        EXPECT_TRUE(help.contains(option)) << option;
+
+    process.start(UMBRITH_EXECUTABLE, {"--version"});
+    process.waitForFinished(30000);
+    EXPECT_EQ(process.exitCode(), 0);
+    EXPECT_TRUE(process.readAllStandardOutput().startsWith("Umbrith "));
+
+    for (const QStringList& wrong : {QStringList{"--fly"}, QStringList{"--root"}}) {
+        ProgramRun run = runProgram(wrong);
+        EXPECT_EQ(run.exitCode, 2);
+        EXPECT_TRUE(run.errors.startsWith("umbrith: ")) << run.errors.toStdString();
+        EXPECT_TRUE(run.errors.contains("usage: umbrith")) << run.errors.toStdString();
+    }
+}
+
 TEST(ProgramTest, aMissingProgramFolderIsRefusedWithOneMessage) {
     ProgramRun run = runProgram({"--root", "/nonexistent/umbrith"});
     EXPECT_EQ(run.exitCode, 2);

@@ -20,6 +20,10 @@ protected:
         testmaps::writeTestTileset();
         testmaps::writeNpcSheet("\\images\\npcs\\one.bmp", qRgb(255, 0, 0));
         testmaps::writeNpcSheet("\\images\\bodies\\blue.bmp", qRgb(0, 0, 255));
+        // A load needs the worn pieces' pictures.
+        for (const char* part : {"bodies\\defaultbody", "heads\\defaulthead", "boots\\defaultboots",
+                                 "gloves\\defaultgloves", "weapons\\defaultweapon"})
+            testmaps::writeNpcSheet("\\images\\" + QString(part) + ".bmp", qRgb(90, 90, 90));
         testmaps::TestMap map(18, 17);
         map.file.npcs = QString(u'ƒ') + kDog;
         map.write("\\maps\\field.ubm");
@@ -164,7 +168,8 @@ TEST_F(SavesTest, aSaveWrittenByHandLoadsFromTheIntro) {
                        "Fists\xA5Light Clothes\xA5Hand\xA5old\xA5text\xA5" "Dwarf\xA5" "1\xA5" "1\xA5" "1\xA5"
                        "0\xA5" "0\xA5" "1\xA5" "0\xA5" "99\xA5" "99\xA5" "0\xA5" "99\xA5" "0\xA5" "0\xA5"
                        "99\xA5" "99\xA5" "0\xA5" "0\xA5" "99\xA5" "0\xA5None\xA5None\xA5None\xA5" "Boots";
-    QByteArray second = "\xA5" "1500\xA5\xA5\xA5\xA5\xA5\xA5\xA5\xA3" + kDog.toLatin1() + "\xA5" "4;5\xA5\\maps\\field.ubm";
+    const QByteArray worn = "\\images\\npcs\\one.bmp\xA5";
+    QByteArray second = "\xA5" "1500\xA5" + worn + worn + worn + worn + "\xA5\xA5\xA3" + kDog.toLatin1() + "\xA5" "4;5\xA5\\maps\\field.ubm";
     writeFile("\\saves\\hand.ubs", "\"" + block + "\",\"|Seen=1\",#FALSE#,#TRUE#,#FALSE#,\"\",\"\",\"*****\",#TRUE#,2,"
                                    "\"\",#TRUE#,\"\\images\\npcs\\one.bmp\",1,\"" + second + "\",#TRUE#,\"\"\r\n");
     start();
@@ -239,6 +244,27 @@ TEST_F(SavesTest, aBadSaveShowsThePopupWithItsTitleAndTheGameGoesOn) {
         EXPECT_TRUE(popups().last().startsWith("Umbrith: There was an error loading the Character File:\n" + QString(name)));
     }
     EXPECT_TRUE(isTrue(game.GameRunning));
+}
+
+TEST_F(SavesTest, aWornPieceWhosePictureIsGoneFailsTheLoadButAnUnnamedShieldKeepsItsPicture) {
+    startGame();
+    game.PlayerArmourPicturePath = "\\images\\bodies\\blue.bmp";
+    // An empty shield path keeps the picture of the former game.
+    game.PlayerShieldPicturePath = "";
+    const_cast<WorldState&>(world()).textures.grossshield = Surface::load(AppPath() + "\\images\\npcs\\one.bmp");
+    save("shield.ubs");
+    load("shield.ubs");
+    EXPECT_TRUE(popups().isEmpty()) << popups().join('\n').toStdString();
+    EXPECT_EQ(GetPixel(world().textures.grossshield, 5, 30), toColorRef(qRgb(255, 0, 0)));
+
+    game.PlayerArmourPicturePath = "\\images\\bodies\\defaultbody.bmp";
+    game.PlayerHelmetPicturePath = "\\images\\heads\\gone.bmp";
+    save("helmet.ubs");
+    load("helmet.ubs");
+    EXPECT_EQ(popups().last(), "Umbrith: There was an error loading the Character File:\nhelmet.ubs\nThis is the Error:\n"
+                               "(File not found)");
+    // The pieces before it were loaded: there is no going back.
+    EXPECT_EQ(GetPixel(world().textures.grossbody, 5, 30), toColorRef(qRgb(90, 90, 90)));
 }
 
 TEST_F(SavesTest, aLoadAfterDeathPutsTheNewCharacterFormAwayAndPlaysAgain) {

@@ -12,16 +12,6 @@
 namespace worldgen::test {
 namespace {
 
-std::vector<std::string> split(const std::string& text, char sep)
-{
-    std::vector<std::string> out(1);
-    for (char c : text) {
-        if (c == sep) out.emplace_back();
-        else out.back() += c;
-    }
-    return out;
-}
-
 TEST(WorldgenFiles, EveryFileTheGameOpensByNameIsGenerated)
 {
     const char* fixedNames[] = {

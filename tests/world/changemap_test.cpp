@@ -112,6 +112,13 @@ TEST_F(ChangemapTest, eventsGoToTheCellOfTheirPlaceAndSpecialsToTheirLocation) {
     EXPECT_EQ(world.MessageText.at(-1, -1), "Welcome");
     EXPECT_EQ(world.SpecialKind.at(4, 5), "2");
     EXPECT_EQ(world.WarpTargetMap.at(4, 5), "\\maps\\b.ubm");
+    // A fractional place takes its slot after the table's offset is added:
+    // message and event tables are offset, the warp table is not.
+    LoadTileEvents(world, QString(u'Ü') + "Half£2.5;3££");
+    EXPECT_EQ(world.TileEvents.at(3, 3), QString(u'Ü') + "Half£2.5;3££");
+    LoadSpecials(world, MessageSpecial("2.5;3", "Sign", "1", "Half") + WarpSpecial("2.5;4", "\\maps\\b.ubm", "SL;SL"));
+    EXPECT_EQ(world.MessageText.at(3, 3), "Half");
+    EXPECT_EQ(world.WarpTargetMap.at(2, 4), "\\maps\\b.ubm");
     // A tile warp has no slot at -1.
     EXPECT_EQ(errorOf([&] { LoadSpecials(world, WarpSpecial("-1;0", "\\maps\\b.ubm", "SL;SL")); }), err::SubscriptOutOfRange);
 }

@@ -45,6 +45,12 @@ TEST_F(MovementTest, aPassableCellIsEnteredAndTouchedAndAnImpassableOneIsBumpedA
     EXPECT_EQ(screen.calls, QStringList({"UpdateLevel 0 0", "StartMessage Sign Closed", "PauseEvents", "CheckEvents False 6 4 "}));
     EXPECT_EQ(game.PlayerY.num(), 5);
 
+    // A hand-edited cell is read by its numeric prefix.
+    world.MapPass.cell(5, 5) = "1a";
+    step(KeyLeft);
+    EXPECT_EQ(game.PlayerX.num(), 5);
+    step(KeyRight);
+
     // Any other passability blocks without a redraw or a touch.
     world.MapPass.cell(6, 6) = "0";
     world.SpecialKind.cell(6, 6) = "1";

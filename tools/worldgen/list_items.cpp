@@ -73,7 +73,8 @@ QString showMessage(const QString& source, const QString& text)
 
 QString barRecord(const QString& first, int second, int third)
 {
-    static_assert(BonusName == RewardKey && BonusOperation == RewardChance && BonusAmount == RewardArticle);
+    static_assert(int(BonusName) == int(RewardKey) && int(BonusOperation) == int(RewardChance) &&
+                  int(BonusAmount) == int(RewardArticle));
     QStringList fields(3);
     fields[BonusName] = first;
     fields[BonusOperation] = QString::number(second);
