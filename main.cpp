@@ -1,5 +1,6 @@
 #include "core/dumpfile.h"
 #include "core/misc.h"
+#include "platform/programfolder.h"
 #include "platform/real/realplatform.h"
 #include "core/gamerecord.h"
 #include "shell/mainform.h"
@@ -7,28 +8,10 @@
 #include "shell/scriptplay.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFileInfo>
-#include <QTemporaryFile>
 #include <cstdio>
 
 namespace {
-
-// The program folder must exist and take files, or nothing the game writes
-// (saves, notes, maps) could be kept.
-bool usableRoot(const QString& root, QString& problem) {
-    QFileInfo info(root);
-    if (!info.isDir()) {
-        problem = QStringLiteral("The program folder \"%1\" does not exist.").arg(root);
-        return false;
-    }
-    QTemporaryFile probe(QDir(root).filePath(QStringLiteral(".umbrith-XXXXXX")));
-    if (!probe.open()) {
-        problem = QStringLiteral("The program folder \"%1\" cannot be written to.").arg(root);
-        return false;
-    }
-    return true;
-}
 
 // The folder of the running program, known before the application object exists.
 QString programFolder(const char* argv0) {
@@ -63,16 +46,14 @@ int main(int argc, char** argv) {
 
     if (line.offscreen || (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The folder is checked before Qt starts, so a refusal is the only thing printed.
-    QString root = line.root.isEmpty() ? programFolder(argv[0]) : line.root;
-    root = QFileInfo(root).absoluteFilePath();
-    QString problem;
-    if (!usableRoot(root, problem)) {
-        std::fprintf(stderr, "umbrith: %s\n", problem.toLocal8Bit().constData());
+    // The folder is found before Qt starts, so a refusal is the only thing printed.
+    const umbrith::ProgramFolder folder = umbrith::FindProgramFolder(line.root, programFolder(argv[0]));
+    if (folder.path.isEmpty()) {
+        std::fprintf(stderr, "umbrith: %s\n", folder.problem.toLocal8Bit().constData());
         return 2;
     }
     QApplication app(argc, argv);
-    umbrith::setAppPath(root);
+    umbrith::setAppPath(folder.path);
 
     if (!line.script.isEmpty())
         return umbrith::runScript(line.script);

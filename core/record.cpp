@@ -13,21 +13,25 @@ RecordReader::RecordReader(QString text) : text_(std::move(text)) {}
 
 RecordReader RecordReader::fromFile(const QString& path) { return RecordReader(readTextFile(path)); }
 
+// Every scan reads through a view: indexing the QString itself would check
+// for sharing at each character.
 void RecordReader::skipSpaces() {
-    while (pos_ < text_.size() && (text_[pos_] == u' ' || text_[pos_] == u'\t'))
+    const QStringView t = text_;
+    while (pos_ < t.size() && (t[pos_] == u' ' || t[pos_] == u'\t'))
         ++pos_;
 }
 
 // Consumes the comma or line break that ends a field, and whatever stands
 // before it (the tail of a cut quoted text).
 void RecordReader::skipDelimiter() {
-    while (pos_ < text_.size() && text_[pos_] != u',' && !isLineBreak(text_[pos_]))
+    const QStringView t = text_;
+    while (pos_ < t.size() && t[pos_] != u',' && !isLineBreak(t[pos_]))
         ++pos_;
-    afterComma_ = pos_ < text_.size() && text_[pos_] == u',';
+    afterComma_ = pos_ < t.size() && t[pos_] == u',';
     if (afterComma_) {
         ++pos_;
-    } else if (pos_ < text_.size()) {
-        if (text_[pos_] == u'\r' && pos_ + 1 < text_.size() && text_[pos_ + 1] == u'\n')
+    } else if (pos_ < t.size()) {
+        if (t[pos_] == u'\r' && pos_ + 1 < t.size() && t[pos_ + 1] == u'\n')
             ++pos_;
         ++pos_;
     }
@@ -36,50 +40,53 @@ void RecordReader::skipDelimiter() {
 bool RecordReader::atEnd() const {
     if (afterComma_)
         return false; // "a," still holds an empty field
-    for (qsizetype i = pos_; i < text_.size(); ++i)
-        if (!text_[i].isSpace())
+    const QStringView t = text_;
+    for (qsizetype i = pos_; i < t.size(); ++i)
+        if (!t[i].isSpace())
             return false;
     return true;
 }
 
 Value RecordReader::next() {
+    const QStringView t = text_;
     if (!afterComma_) {
         // Blank lines between records are passed over.
-        while (pos_ < text_.size() && (text_[pos_].isSpace()))
+        while (pos_ < t.size() && t[pos_].isSpace())
             ++pos_;
     } else {
         skipSpaces();
     }
-    if (pos_ >= text_.size() && !afterComma_)
+    if (pos_ >= t.size() && !afterComma_)
         err::raise(err::InputPastEnd);
 
-    if (pos_ < text_.size() && text_[pos_] == u'"') {
-        qsizetype start = ++pos_;
-        qsizetype end = text_.indexOf(u'"', start);
+    if (pos_ < t.size() && t[pos_] == u'"') {
+        const qsizetype start = ++pos_;
+        qsizetype end = t.indexOf(u'"', start);
         if (end < 0)
-            end = text_.size();
-        QString value = text_.mid(start, end - start);
+            end = t.size();
         pos_ = end;
         skipDelimiter();
-        return Value(value);
+        return Value(t.mid(start, end - start).toString());
     }
 
-    qsizetype start = pos_;
-    while (pos_ < text_.size() && text_[pos_] != u',' && !isLineBreak(text_[pos_]))
+    const qsizetype start = pos_;
+    while (pos_ < t.size() && t[pos_] != u',' && !isLineBreak(t[pos_]))
         ++pos_;
-    QString raw = text_.mid(start, pos_ - start).trimmed();
+    // Looked at in place: only a field that stays text is copied.
+    QStringView raw = t.mid(start, pos_ - start);
+    if (!raw.isEmpty() && (raw.front().isSpace() || raw.back().isSpace()))
+        raw = raw.trimmed();
     skipDelimiter();
     if (raw.isEmpty())
         return Value();
-    if (raw == u"#TRUE#")
+    if (raw[0] == u'#' && raw == u"#TRUE#")
         return Value(true);
-    if (raw == u"#FALSE#")
+    if (raw[0] == u'#' && raw == u"#FALSE#")
         return Value(false);
-    try {
-        return Value(toDouble(Value(raw)));
-    } catch (const RuntimeError&) {
-        return Value(raw);
-    }
+    double number = 0;
+    if (readStrictNumber(raw, number))
+        return Value(number);
+    return Value(raw.toString());
 }
 
 QStringList NonEmptyParts(const QString& list, QChar delimiter) {

@@ -14,12 +14,9 @@ namespace {
 bool isBlank(QChar c) { return c == u' ' || c == u'\t' || c == u'\n'; }
 bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
 
-double fromDecimal(const std::string& whole, const std::string& fraction, const std::string& exponent) {
-    if (whole.empty() && fraction.empty())
-        return 0;
-    std::string text = (whole.empty() ? "0" : whole) + "." + fraction + "0";
-    if (!exponent.empty())
-        text += "e" + exponent;
+// `text` holds the digits read as "whole.fraction" with an optional "e"
+// exponent; a result beyond the doubles is infinite, or 0 for a tiny one.
+double fromDecimal(const std::string& text) {
     double result = 0;
     auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), result);
     if (ec == std::errc::result_out_of_range)
@@ -29,7 +26,7 @@ double fromDecimal(const std::string& whole, const std::string& fraction, const 
 
 // "&H" and "&O" numbers; four hex digits or fewer read as a 16-bit pattern,
 // eight or fewer as a 32-bit one, as the old runtime did.
-double radixNumber(const QString& s, qsizetype& i, int radix) {
+double radixNumber(QStringView s, qsizetype& i, int radix) {
     long long value = 0;
     int count = 0;
     while (i < s.size()) {
@@ -51,7 +48,7 @@ double radixNumber(const QString& s, qsizetype& i, int radix) {
 
 // Reads the numeric prefix from i on. `strict` refuses blanks inside the digits.
 // Returns false when no digit at all was read.
-bool readNumber(const QString& s, qsizetype& i, bool strict, double& result) {
+bool readNumber(QStringView s, qsizetype& i, bool strict, double& result) {
     auto skipInner = [&] {
         while (!strict && i < s.size() && isBlank(s[i]))
             ++i;
@@ -66,29 +63,36 @@ bool readNumber(const QString& s, qsizetype& i, bool strict, double& result) {
     bool negative = false;
     if (i < s.size() && (s[i] == u'-' || s[i] == u'+'))
         negative = s[i++] == u'-';
-    std::string whole, fraction, exponent;
+    // One buffer for the whole number, short enough for most to need no
+    // allocation: the rules read numbers at every step.
+    std::string digits;
     for (skipInner(); i < s.size() && isDigit(s[i]); skipInner())
-        whole += char(s[i++].unicode());
+        digits += char(s[i++].unicode());
+    const size_t wholeCount = digits.size();
     if (i < s.size() && s[i] == u'.') {
         ++i;
         for (skipInner(); i < s.size() && isDigit(s[i]); skipInner())
-            fraction += char(s[i++].unicode());
+            digits += char(s[i++].unicode());
     }
-    bool anyDigit = !whole.empty() || !fraction.empty();
-    if (anyDigit && i < s.size() && QStringLiteral("EeDd").contains(s[i])) {
-        qsizetype mark = i++;
-        std::string digits;
+    const bool anyDigit = !digits.empty();
+    if (anyDigit)
+        digits.insert(wholeCount, 1, '.');
+    if (anyDigit && i < s.size() && (s[i] == u'E' || s[i] == u'e' || s[i] == u'D' || s[i] == u'd')) {
+        const qsizetype mark = i++;
+        const size_t withoutExponent = digits.size();
+        digits += 'e';
         if (i < s.size() && (s[i] == u'-' || s[i] == u'+'))
             digits += char(s[i++].unicode());
         qsizetype firstDigit = i;
         for (skipInner(); i < s.size() && isDigit(s[i]); skipInner())
             digits += char(s[i++].unicode());
-        if (i > firstDigit && digits != "-" && digits != "+")
-            exponent = digits;
-        else if (strict)
-            i = mark; // a dangling exponent letter is not part of a strict number
+        if (i == firstDigit) {
+            digits.resize(withoutExponent);
+            if (strict)
+                i = mark; // a dangling exponent letter is not part of a strict number
+        }
     }
-    double magnitude = fromDecimal(whole, fraction, exponent);
+    const double magnitude = anyDigit ? fromDecimal(digits) : 0;
     result = negative ? -magnitude : magnitude;
     return anyDigit;
 }
@@ -141,13 +145,41 @@ QString numberText(double number) {
     return QString::fromLatin1(buffer).toUpper();
 }
 
+// A plain decimal, the usual number of the game's files: an optional minus,
+// digits and one point. False for anything else, which the full reader takes.
+bool readPlainDecimal(QStringView text, double& result) {
+    char plain[32];
+    if (text.isEmpty() || text.size() > qsizetype(sizeof plain))
+        return false;
+    bool digit = false, point = false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if (c >= u'0' && c <= u'9')
+            digit = true;
+        else if (c == u'.' && !point)
+            point = true;
+        else if (c != u'-' || i != 0)
+            return false;
+        plain[i] = char(c);
+    }
+    const char* end = plain + text.size();
+    return digit && std::from_chars(plain, end, result).ptr == end;
+}
+
+bool readStrictNumber(QStringView text, double& result) {
+    if (!text.isEmpty() && (text.front().isSpace() || text.back().isSpace()))
+        text = text.trimmed();
+    if (readPlainDecimal(text, result))
+        return true;
+    qsizetype i = 0;
+    return readNumber(text, i, true, result) && i == text.size();
+}
+
 double toDouble(const Value& value) {
     if (!value.isText())
         return value.num();
-    QString text = value.text().trimmed();
-    qsizetype i = 0;
     double result = 0;
-    if (!readNumber(text, i, true, result) || i != text.size())
+    if (!readStrictNumber(value.text(), result))
         err::raise(err::TypeMismatch);
     return result;
 }

@@ -45,6 +45,8 @@ QString numberText(double number);
 // Strict conversion of a value to a number: a text that is not wholly a number
 // is a type mismatch.
 double toDouble(const Value& value);
+// The same for a text, without the error: false when it is no number.
+bool readStrictNumber(QStringView text, double& result);
 // Integer conversions with halves to even; out of range is an overflow.
 int16_t toInt16(const Value& value);
 int32_t toInt32(const Value& value);

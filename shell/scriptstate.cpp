@@ -1,6 +1,7 @@
 #include "shell/scriptstate.h"
 
 #include "core/gamerecord.h"
+#include "core/misc.h"
 #include "core/realm.h"
 #include "platform/scripted/scriptedplatform.h"
 #include "shell/mainform.h"
@@ -161,6 +162,7 @@ QJsonObject stateJson(const Main& main, const ScriptedPlatform& scripted) {
     const MainState& state = main.state();
     insertWorld(json, main);
     json.insert("CCMain", npcCreatorJson(main.npcCreator()));
+    json.insert("AppPath", AppPath());
     json.insert("CurrentMusic", state.CurrentMusic);
     json.insert("GameLoaded", state.GameLoaded);
     json.insert("DisplayModeChanged", state.DisplayModeChanged);
